@@ -20,8 +20,8 @@ enum DDHierarchyID : std::int32_t;
 class DbgDataKey {
 public:
   DbgDataKey();
-  DbgDataKey(const std::string& text);
-  DbgDataKey(const char* text);
+  explicit DbgDataKey(const std::string& text);
+  explicit DbgDataKey(const char* text);
   // Elements [from, end) of other; end 0 means "through the last element".
   DbgDataKey(const DbgDataKey& other, unsigned long from, unsigned long end);
   DbgDataKey(const DbgDataKey&) = default;

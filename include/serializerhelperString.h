@@ -51,6 +51,10 @@ public:
 
 private:
   template <class T> bool setNumber(const std::string& key, T value);
+  // The line of setStringHelper, from a value that is not a std::string, so
+  // that numbers need no string of their own.
+  void appendLine(const std::string& key, const char* value,
+                  std::string::size_type length);
 
   std::string text;
   std::uint32_t indent;

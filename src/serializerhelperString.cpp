@@ -42,7 +42,8 @@ bool SerializerHelperString::setNumber(const std::string& key, T value) {
   char digits[std::numeric_limits<T>::digits10 + 3];
   const std::to_chars_result result =
       std::to_chars(digits, digits + sizeof digits, value);
-  return setStringHelper(key, std::string(digits, result.ptr));
+  appendLine(key, digits, result.ptr - digits);
+  return true;
 }
 
 bool SerializerHelperString::setInt(const std::string& key, int value) {
@@ -73,8 +74,10 @@ bool SerializerHelperString::setFloat(const std::string& key, double value) {
   const int length = std::snprintf(buffer, sizeof buffer, "%f", value);
   if (length < 0)
     return setStringHelper(key, std::string());
-  if (static_cast<std::size_t>(length) < sizeof buffer)
-    return setStringHelper(key, std::string(buffer, length));
+  if (static_cast<std::size_t>(length) < sizeof buffer) {
+    appendLine(key, buffer, length);
+    return true;
+  }
   std::string large(static_cast<std::size_t>(length) + 1, '\0');
   std::snprintf(&large[0], large.size(), "%f", value);
   large.resize(length);
@@ -122,19 +125,26 @@ bool SerializerHelperString::popSection() {
 
 bool SerializerHelperString::setStringHelper(const std::string& key,
                                              const std::string& value) {
+  appendLine(key, value.data(), value.size());
+  return true;
+}
+
+void SerializerHelperString::appendLine(const std::string& key,
+                                        const char* value,
+                                        std::string::size_type length) {
   outBlanks();
   text += key;
   text += '=';
-  text += value;
+  text.append(value, length);
   text += '\n';
-  return true;
 }
 
 void SerializerHelperString::outBlanks() {
   // An indentation that has wrapped around (more pops than pushes) shows
   // as none instead of some four billion blanks; the next push brings it
   // back to where it was.
-  if (indent <= static_cast<std::uint32_t>(std::numeric_limits<std::int32_t>::max()))
+  const std::uint32_t largestIndent = std::numeric_limits<std::int32_t>::max();
+  if (indent <= largestIndent)
     text.append(indent, ' ');
 }
 
