@@ -18,7 +18,8 @@ namespace {
 const char* const kSourceName = "src/valuetypes.cpp";
 
 // Appends value in the given base (lower-case digits, no prefix).
-template <class T> void appendNumber(std::string& text, T value, int base = 10) {
+template <class T>
+void appendNumber(std::string& text, T value, int base = 10) {
   char digits[72];
   const std::to_chars_result result =
       std::to_chars(digits, digits + sizeof digits, value, base);

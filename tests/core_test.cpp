@@ -10,8 +10,8 @@
 #include <gtest/gtest.h>
 
 using namespace Vemo::DbgData;
-using Test::dumpText;
-using Test::make;
+using TestSupport::dumpText;
+using TestSupport::make;
 
 typedef RTTITempl<DebuggerData> Rtti;
 

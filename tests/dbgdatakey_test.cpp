@@ -178,8 +178,8 @@ TEST(DbgDataKeyTest, StreamReading) {
 // form of a parsed key parses back to the same key; a stream read either
 // gives a key or leaves the position unchanged.
 TEST(DbgDataKeyTest, RobustAgainstRandomText) {
-  const char alphabet[] = {'/', '\\', '"', ' ', '\t', '\n', 'a', 'Z',
-                           '[', ']', '\0', '\x7f', '\xff', '0'};
+  const char alphabet[] = {'/', '\\', '"', ' ',  '\t',   '\n',   'a',
+                           'Z', '[',  ']', '\0', '\x7f', '\xff', '0'};
   std::mt19937 random(20240611);
   for (int round = 0; round < 20000; ++round) {
     std::string text(random() % 24, ' ');

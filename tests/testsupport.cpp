@@ -7,7 +7,7 @@
 
 namespace Vemo {
 namespace DbgData {
-namespace Test {
+namespace TestSupport {
 
 std::string dumpText(const DebuggerData& object) {
   SerializerHelperString writer;
@@ -25,6 +25,6 @@ const auto* const s_managerEnvironment =
     ::testing::AddGlobalTestEnvironment(new ManagerEnvironment);
 } // namespace
 
-} // namespace Test
+} // namespace TestSupport
 } // namespace DbgData
 } // namespace Vemo

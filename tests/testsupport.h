@@ -9,7 +9,7 @@
 
 namespace Vemo {
 namespace DbgData {
-namespace Test {
+namespace TestSupport {
 
 // The text dump of an object, as the text writer makes it.
 std::string dumpText(const DebuggerData& object);
@@ -18,14 +18,14 @@ std::string dumpText(const DebuggerData& object);
 template <class T>
 std::unique_ptr<T> make(const std::string& className, const std::string& subKey);
 
-} // namespace Test
+} // namespace TestSupport
 } // namespace DbgData
 } // namespace Vemo
 
 #include "ddmanager.h"
 
 template <class T>
-std::unique_ptr<T> Vemo::DbgData::Test::make(const std::string& className,
+std::unique_ptr<T> Vemo::DbgData::TestSupport::make(const std::string& className,
                                              const std::string& subKey) {
   DebuggerData* object = st_ddmanager.factory(className, subKey);
   if (object && !object->isKindOf(T::staticRtti())) {

@@ -1,0 +1,300 @@
+#include "deserializerhelperDOM.h"
+
+#include "dbgdatakey.h"
+#include "ddfatalerror.h"
+#include "serializerhelperDOM.h"
+#include "valuetypes.h"
+
+#include <xercesc/dom/DOM.hpp>
+
+#include <cstdlib>
+#include <iostream>
+#include <limits>
+#include <sstream>
+#include <type_traits>
+
+using namespace xercesc;
+
+namespace Vemo {
+namespace DbgData {
+
+namespace {
+
+const char* const kSourceName = "src/deserializerhelperDOM";
+
+constexpr XmlLiteral kValues("values");
+
+void requireOutput(const void* out, unsigned long line) {
+  if (!out)
+    throwDDFatalError("Bad Pointer!", kSourceName, line);
+}
+
+// Reads text as the standard input stream does with its hexadecimal flag
+// raised on top of the decimal one, which keeps the base decimal; text that
+// does not parse (or overflows) leaves *out unchanged. Plain decimal text
+// short enough not to overflow is converted directly, with the stream's
+// result; everything else goes through the stream.
+template <class Int> void parseInteger(const std::string& text, Int* out) {
+  const char* digit = text.c_str();
+  const char* const end = digit + text.size();
+  const bool negative = std::is_signed<Int>::value && digit != end &&
+                        *digit == '-';
+  if (negative)
+    ++digit;
+  const std::size_t count = static_cast<std::size_t>(end - digit);
+  if (count > 0 && count <= 18) {
+    long long magnitude = 0;
+    for (; digit != end && *digit >= '0' && *digit <= '9'; ++digit)
+      magnitude = magnitude * 10 + (*digit - '0');
+    const long long value = negative ? -magnitude : magnitude;
+    if (digit == end &&
+        value >= static_cast<long long>(std::numeric_limits<Int>::min()) &&
+        (value < 0 || static_cast<unsigned long long>(value) <=
+                          std::numeric_limits<Int>::max())) {
+      *out = static_cast<Int>(value);
+      return;
+    }
+  }
+  std::istringstream stream(text);
+  stream.setf(std::ios_base::hex);
+  Int value;
+  if (stream >> value)
+    *out = value;
+}
+
+} // namespace
+
+DeserializerHelperDOM::DeserializerHelperDOM(const DOMElement* element) {
+  initDOM(element);
+}
+
+DeserializerHelperDOM::~DeserializerHelperDOM() { cleanupDOM(); }
+
+// ---------------------------------------------------------------------------
+// Document and focus
+
+void DeserializerHelperDOM::resetDOM(const DOMElement* element) {
+  cleanupDOM();
+  initDOM(element);
+}
+
+void DeserializerHelperDOM::initDOM(const DOMElement* element) {
+  if (!element)
+    throwDDFatalError("Bad Pointer!", kSourceName, __LINE__);
+  const DOMDocument* owner = element->getOwnerDocument();
+  if (!owner)
+    throwDDFatalError("Bad Pointer!", kSourceName, __LINE__);
+  document = owner;
+  rootElement = element;
+  focusStack.clear();
+  childCursors.clear();
+  setFocusToChild(element);
+}
+
+void DeserializerHelperDOM::cleanupDOM() {
+  document = nullptr;
+  rootElement = nullptr;
+  focusStack.clear();
+  childCursors.clear();
+}
+
+const DOMNode*
+DeserializerHelperDOM::findSubNode(const std::string& name) const {
+  A2X xmlName(name);
+  return findChildNamed(getFocusNode(), xmlName.get());
+}
+
+const DOMNode*
+DeserializerHelperDOM::findSubNode(const std::string& name,
+                                   const std::string& subKey) const {
+  A2X xmlName(name);
+  A2X xmlSubKey(subKey);
+  return findChildNamed(getFocusNode(), xmlName.get(), xmlSubKey.get());
+}
+
+bool DeserializerHelperDOM::setFocusToChild(const DOMNode* node) {
+  if (!node)
+    return false;
+  focusStack.push_back(node);
+  return true;
+}
+
+bool DeserializerHelperDOM::setFocusToParent() {
+  if (focusStack.empty())
+    return false;
+  focusStack.pop_back();
+  return true;
+}
+
+const DOMNode* DeserializerHelperDOM::getFocusNode() const {
+  return focusStack.empty() ? nullptr : focusStack.back();
+}
+
+// ---------------------------------------------------------------------------
+// Sections
+
+bool DeserializerHelperDOM::pushSection(const std::string& name) {
+  return setFocusToChild(findSubNode(name));
+}
+
+bool DeserializerHelperDOM::pushListSection(const std::string& name) {
+  if (!pushSection(name))
+    return false;
+  childCursors.push_back(nullptr);
+  return true;
+}
+
+bool DeserializerHelperDOM::pushFirstChildSection() {
+  if (childCursors.empty())
+    return false;
+  const DOMNode* current = getFocusNode();
+  childCursors.back() = current ? current->getFirstChild() : nullptr;
+  return setFocusToChild(childCursors.back());
+}
+
+bool DeserializerHelperDOM::pushNextChildSection() {
+  if (childCursors.empty() || !childCursors.back())
+    return false;
+  childCursors.back() = childCursors.back()->getNextSibling();
+  return setFocusToChild(childCursors.back());
+}
+
+bool DeserializerHelperDOM::popSection() { return setFocusToParent(); }
+
+bool DeserializerHelperDOM::popListSection() {
+  const bool hadCursor = !childCursors.empty();
+  if (hadCursor)
+    childCursors.pop_back();
+  return setFocusToParent() && hadCursor;
+}
+
+// ---------------------------------------------------------------------------
+// Values
+
+bool DeserializerHelperDOM::getStringHelper(const std::string& key,
+                                            std::string* out,
+                                            const DOMNode* node) const {
+  requireOutput(out, __LINE__);
+  const DOMNode* target = node ? node : getFocusNode();
+  if (target && target->getNodeType() == DOMNode::ELEMENT_NODE) {
+    A2X name(key);
+    X2A text(static_cast<const DOMElement*>(target)->getAttribute(name.get()));
+    out->assign(text.get());
+    return true;
+  }
+  std::cerr << "SerializerHelperDOM::setStringHelper(" << key << ", "
+            << "<not found!>" << ", " << static_cast<const void*>(target)
+            << ");" << std::endl;
+  out->clear();
+  return false;
+}
+
+bool DeserializerHelperDOM::getValueText(const std::string& key,
+                                         std::string* text) const {
+  const DOMNode* values = findChildNamed(getFocusNode(), kValues.get());
+  return values && getStringHelper(key, text, values);
+}
+
+bool DeserializerHelperDOM::getNameAndSubKey(std::string* className,
+                                             std::string* subKey) const {
+  return getStringHelper("ClassName", className, nullptr) &&
+         getStringHelper("SubKey", subKey, nullptr);
+}
+
+bool DeserializerHelperDOM::getBool(const std::string& key, bool* out) const {
+  requireOutput(out, __LINE__);
+  std::string text;
+  const bool found = getValueText(key, &text);
+  *out = found && text == "true";
+  return found;
+}
+
+template <class Int>
+bool DeserializerHelperDOM::getIntValue(const std::string& key,
+                                        Int* out) const {
+  requireOutput(out, __LINE__);
+  std::string text;
+  if (!getValueText(key, &text)) {
+    *out = 0;
+    return false;
+  }
+  parseInteger(text, out);
+  return true;
+}
+
+bool DeserializerHelperDOM::getInt(const std::string& key, int* out) const {
+  return getIntValue(key, out);
+}
+
+bool DeserializerHelperDOM::getInt(const std::string& key,
+                                   unsigned int* out) const {
+  return getIntValue(key, out);
+}
+
+bool DeserializerHelperDOM::getInt(const std::string& key, long* out) const {
+  return getIntValue(key, out);
+}
+
+bool DeserializerHelperDOM::getInt(const std::string& key,
+                                   unsigned long* out) const {
+  return getIntValue(key, out);
+}
+
+bool DeserializerHelperDOM::getInt(const std::string& key,
+                                   long long* out) const {
+  return getIntValue(key, out);
+}
+
+bool DeserializerHelperDOM::getInt(const std::string& key,
+                                   unsigned long long* out) const {
+  return getIntValue(key, out);
+}
+
+bool DeserializerHelperDOM::getFloat(const std::string& key,
+                                     double* out) const {
+  requireOutput(out, __LINE__);
+  std::string text;
+  const bool found = getValueText(key, &text);
+  *out = found ? std::atof(text.c_str()) : 0.0;
+  return found;
+}
+
+bool DeserializerHelperDOM::getString(const std::string& key,
+                                      std::string* out) const {
+  requireOutput(out, __LINE__);
+  const DOMNode* values = findChildNamed(getFocusNode(), kValues.get());
+  return values && getStringHelper(key, out, values);
+}
+
+bool DeserializerHelperDOM::getAddress(const std::string& key,
+                                       Address* out) const {
+  requireOutput(out, __LINE__);
+  std::string text;
+  if (!getValueText(key, &text))
+    return false;
+  out->deserialize(text);
+  return true;
+}
+
+bool DeserializerHelperDOM::getScope(const std::string& key,
+                                     Scope* out) const {
+  requireOutput(out, __LINE__);
+  std::string text;
+  if (!getValueText(key, &text))
+    return false;
+  out->deserialize(text);
+  return true;
+}
+
+bool DeserializerHelperDOM::getDbgDataKey(const std::string& key,
+                                          DbgDataKey* out) const {
+  requireOutput(out, __LINE__);
+  std::string text;
+  if (!getValueText(key, &text))
+    return false;
+  *out = text;
+  return true;
+}
+
+} // namespace DbgData
+} // namespace Vemo

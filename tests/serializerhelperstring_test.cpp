@@ -1,0 +1,142 @@
+// Tests of the text dump writer.
+#include "serializerhelperString.h"
+#include "valuetypes.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+
+using namespace Vemo::DbgData;
+
+namespace {
+
+TEST(SerializerHelperStringTest, DumpOfALeafObject) {
+  SerializerHelperString writer;
+  StringVector items;
+  items.addItem("first");
+  items.addItem("second");
+  EXPECT_TRUE(writer.pushSection("DataElement"));
+  EXPECT_TRUE(writer.setClassNameAndSubKey("ThreadItem", "12"));
+  EXPECT_TRUE(writer.setBool("flag", true));
+  EXPECT_TRUE(items.serialize("items", &writer));
+  EXPECT_TRUE(writer.popSection());
+  EXPECT_EQ(writer.getText(), "DataElement {\n"
+                              "  ClassName=ThreadItem\n"
+                              "  SubKey=12\n"
+                              "  flag=true\n"
+                              "  items_Size=2\n"
+                              "  items_0=first\n"
+                              "  items_0x1=second\n"
+                              "}\n");
+}
+
+// Each value operation writes exactly one line with the expected text.
+TEST(SerializerHelperStringTest, ValueTexts) {
+  DbgDataKey key;
+  key << "Root"
+      << "a/b";
+  const struct Case {
+    bool (*write)(ISerializerHelper&, const DbgDataKey&);
+    const char* line;
+  } cases[] = {
+      {[](ISerializerHelper& w, const DbgDataKey&) {
+         return w.setBool("b", false);
+       },
+       "b=false\n"},
+      {[](ISerializerHelper& w, const DbgDataKey&) {
+         return w.setInt("i", std::numeric_limits<int>::min());
+       },
+       "i=-2147483648\n"},
+      {[](ISerializerHelper& w, const DbgDataKey&) {
+         return w.setInt("u", std::numeric_limits<unsigned int>::max());
+       },
+       "u=4294967295\n"},
+      {[](ISerializerHelper& w, const DbgDataKey&) {
+         return w.setInt("l", std::numeric_limits<long>::min());
+       },
+       "l=-9223372036854775808\n"},
+      {[](ISerializerHelper& w, const DbgDataKey&) {
+         return w.setInt("ul", std::numeric_limits<unsigned long>::max());
+       },
+       "ul=18446744073709551615\n"},
+      {[](ISerializerHelper& w, const DbgDataKey&) {
+         return w.setInt("ll", -1ll);
+       },
+       "ll=-1\n"},
+      {[](ISerializerHelper& w, const DbgDataKey&) {
+         return w.setInt("ull", 255ull);
+       },
+       "ull=255\n"},
+      {[](ISerializerHelper& w, const DbgDataKey&) {
+         return w.setFloat("f", 0.0);
+       },
+       "f=0.000000\n"},
+      {[](ISerializerHelper& w, const DbgDataKey&) {
+         return w.setFloat("f", -1.5);
+       },
+       "f=-1.500000\n"},
+      {[](ISerializerHelper& w, const DbgDataKey&) {
+         return w.setFloat("f", 1e20);
+       },
+       "f=100000000000000000000.000000\n"},
+      {[](ISerializerHelper& w, const DbgDataKey&) {
+         return w.setString("", "a=b\nc");
+       },
+       "=a=b\nc\n"},
+      {[](ISerializerHelper& w, const DbgDataKey&) {
+         return w.setAddress("A", Address(0, 0x401000, 0, 1, 32));
+       },
+       "A=Address( 1 32 0 401000 0 )Address\n"},
+      {[](ISerializerHelper& w, const DbgDataKey& k) {
+         return w.setScope("S", Scope(Address(), k, 1, 2));
+       },
+       "S=Scope( Address( 4 32 0 0 0 )Address 2F526F6F742F615C2F6200 1 2 "
+       ")Scope\n"},
+      {[](ISerializerHelper& w, const DbgDataKey& k) {
+         return w.setDbgDataKey("K", k);
+       },
+       "K=/Root/a\\/b\n"},
+  };
+  for (const Case& c : cases) {
+    SerializerHelperString writer;
+    EXPECT_TRUE(c.write(writer, key));
+    EXPECT_EQ(writer.getText(), c.line);
+  }
+
+  // The largest double still comes out whole.
+  SerializerHelperString writer;
+  writer.setFloat("max", std::numeric_limits<double>::max());
+  const std::string& text = writer.getText();
+  EXPECT_EQ(text.compare(0, 7, "max=179"), 0);
+  EXPECT_EQ(text.size(), 4 + 309 + 7 + 1u);
+}
+
+TEST(SerializerHelperStringTest, SectionsIndentByTwo) {
+  SerializerHelperString writer;
+  writer.pushSection("DataList");
+  writer.setInt("n", 1);
+  writer.pushSection("DataElement");
+  writer.setString("s", "x");
+  writer.popSection();
+  writer.popSection();
+  writer.setString("after", "y");
+  EXPECT_EQ(writer.getText(), "DataList {\n"
+                              "  n=1\n"
+                              "  DataElement {\n"
+                              "    s=x\n"
+                              "  }\n"
+                              "}\n"
+                              "after=y\n");
+
+  // A pop without a push wraps the indentation around, which shows as none;
+  // the next push brings it back to zero.
+  SerializerHelperString unbalanced;
+  unbalanced.popSection();
+  unbalanced.setInt("a", 1);
+  unbalanced.pushSection("S");
+  unbalanced.setInt("b", 2);
+  EXPECT_EQ(unbalanced.getText(), "}\na=1\nS {\nb=2\n");
+}
+
+} // namespace
