@@ -73,7 +73,8 @@ public:
   bool pushNextChildSection() override;
   // Leaves the current node; false (and nothing happens) on an empty stack.
   bool popSection() override;
-  // Leaves the list section and drops its cursor; false on empty stacks.
+  // Leaves the list section and drops its cursor; false (and nothing
+  // happens) when no list section is open.
   bool popListSection() override;
 
   // cleanupDOM() followed by initDOM(element).

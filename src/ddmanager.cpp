@@ -16,9 +16,9 @@ DbgDataManager st_ddmanager;
 namespace {
 
 // Moves every row of a table to the index equal to its id: passes of swaps
-// until one pass changes nothing. Each swap puts the row at r into its final
-// place, so the passes end; the last row is never examined because it is the
-// only place left for the last misplaced row.
+// until one pass changes nothing. Each swap puts the row that stood at r into
+// its final place, so the passes end; the last row is never examined because it
+// is the only place left for the last misplaced row.
 template <class Row, int N> void sortRows(Row (&rows)[N]) {
   bool changed = true;
   while (changed) {
@@ -48,6 +48,18 @@ bool isHierarchyName(DDHierarchyID place, const std::string& element) {
 bool holdsHierarchyName(const DbgDataKey& key, DDHierarchyID place) {
   const char* name = DbgDataManager::getHierarchyName(place);
   return name && key.find(std::string(name));
+}
+
+// Looks name up in one of the name maps; id may be null to test only.
+template <class Id>
+bool lookUp(const std::map<std::string, Id>& ids, const std::string& name,
+            Id* id) {
+  const auto found = ids.find(name);
+  if (found == ids.end())
+    return false;
+  if (id)
+    *id = found->second;
+  return true;
 }
 
 // Common stems of the builders' keys. s1..s5 are the sub keys of the
@@ -125,20 +137,6 @@ void DbgDataManager::init() {
       m_hierarchyIds.insert({row.name, row.id});
   }
 }
-
-namespace {
-// Looks name up in one of the name maps; id may be null to test only.
-template <class Id>
-bool lookUp(const std::map<std::string, Id>& ids, const std::string& name,
-            Id* id) {
-  const auto found = ids.find(name);
-  if (found == ids.end())
-    return false;
-  if (id)
-    *id = found->second;
-  return true;
-}
-} // namespace
 
 bool DbgDataManager::getClassId(const std::string& name,
                                 DebuggerDataID* id) const {
@@ -296,8 +294,7 @@ bool DbgDataManager::createFullKeyContextRegisterGrpList(
 
 bool DbgDataManager::createFullKeyContextRegisterGroup(
     DbgDataKey& key, const std::string& s1, const std::string& s2,
-    const std::string& s3, const std::string& s4,
-    const std::string& s5) const {
+    const std::string& s3, const std::string& s4, const std::string& s5) const {
   appendThread(key, s1, s2, s3, s4) << DDH_CtxtRegGrps << s5;
   return true;
 }
@@ -428,8 +425,7 @@ bool DbgDataManager::createFullKeySourceItem(DbgDataKey& key,
   return true;
 }
 
-bool DbgDataManager::createFullKeyEvents(DbgDataKey& key,
-                                         const std::string& s1,
+bool DbgDataManager::createFullKeyEvents(DbgDataKey& key, const std::string& s1,
                                          const std::string& s2) const {
   appendJob(key, s1, s2) << DDH_Events;
   return true;
@@ -479,24 +475,21 @@ bool DbgDataManager::createFullKeyStackFrameList(DbgDataKey& key,
 
 bool DbgDataManager::createFullKeyStackFrameItem(
     DbgDataKey& key, const std::string& s1, const std::string& s2,
-    const std::string& s3, const std::string& s4,
-    const std::string& s5) const {
+    const std::string& s3, const std::string& s4, const std::string& s5) const {
   appendStackFrame(key, s1, s2, s3, s4, s5);
   return true;
 }
 
 bool DbgDataManager::createFullKeyStackFrameLocals(
     DbgDataKey& key, const std::string& s1, const std::string& s2,
-    const std::string& s3, const std::string& s4,
-    const std::string& s5) const {
+    const std::string& s3, const std::string& s4, const std::string& s5) const {
   appendStackFrame(key, s1, s2, s3, s4, s5) << DDH_FrameLocals;
   return true;
 }
 
 bool DbgDataManager::createFullKeyStackFrameRegisterGrpList(
     DbgDataKey& key, const std::string& s1, const std::string& s2,
-    const std::string& s3, const std::string& s4,
-    const std::string& s5) const {
+    const std::string& s3, const std::string& s4, const std::string& s5) const {
   appendStackFrame(key, s1, s2, s3, s4, s5) << DDH_FrameCtxtRegGrps;
   return true;
 }
@@ -513,8 +506,7 @@ bool DbgDataManager::createFullKeyStackFrameRegister(
     DbgDataKey& key, const std::string& s1, const std::string& s2,
     const std::string& s3, const std::string& s4, const std::string& s5,
     const std::string& s6, const std::string& s7) const {
-  appendStackFrame(key, s1, s2, s3, s4, s5)
-      << DDH_FrameCtxtRegGrps << s6 << s7;
+  appendStackFrame(key, s1, s2, s3, s4, s5) << DDH_FrameCtxtRegGrps << s6 << s7;
   return true;
 }
 
@@ -561,8 +553,7 @@ bool DbgDataManager::createFullKeyLocalEvalList(DbgDataKey& key,
 
 bool DbgDataManager::createFullKeyLocalEvalRoot(
     DbgDataKey& key, const std::string& s1, const std::string& s2,
-    const std::string& s3, const std::string& s4,
-    const std::string& s5) const {
+    const std::string& s3, const std::string& s4, const std::string& s5) const {
   appendThread(key, s1, s2, s3, s4) << DDH_Locals << s5;
   return true;
 }
@@ -586,12 +577,9 @@ bool DbgDataManager::createFullKeySysRegGrpList(DbgDataKey& key,
   return true;
 }
 
-bool DbgDataManager::createFullKeySysRegGroup(DbgDataKey& key,
-                                              const std::string& s1,
-                                              const std::string& s2,
-                                              const std::string& s3,
-                                              const std::string& s4,
-                                              const std::string& s5) const {
+bool DbgDataManager::createFullKeySysRegGroup(
+    DbgDataKey& key, const std::string& s1, const std::string& s2,
+    const std::string& s3, const std::string& s4, const std::string& s5) const {
   appendProcess(key, s1, s2, s3) << DDH_SysRegSets << s4 << s5;
   return true;
 }
@@ -664,8 +652,7 @@ bool DbgDataManager::createFullKeyDataSharingFilterList(
 // Deliberately ends in the caller's sub key s5, although it names a list.
 bool DbgDataManager::createFullKeySIMDRegisterList(
     DbgDataKey& key, const std::string& s1, const std::string& s2,
-    const std::string& s3, const std::string& s4,
-    const std::string& s5) const {
+    const std::string& s3, const std::string& s4, const std::string& s5) const {
   appendThread(key, s1, s2, s3, s4) << DDH_SIMDRegisters << s5;
   return true;
 }

@@ -162,10 +162,10 @@ bool DeserializerHelperDOM::pushNextChildSection() {
 bool DeserializerHelperDOM::popSection() { return setFocusToParent(); }
 
 bool DeserializerHelperDOM::popListSection() {
-  const bool hadCursor = !childCursors.empty();
-  if (hadCursor)
-    childCursors.pop_back();
-  return setFocusToParent() && hadCursor;
+  if (childCursors.empty())
+    return false;
+  childCursors.pop_back();
+  return setFocusToParent();
 }
 
 // ---------------------------------------------------------------------------
