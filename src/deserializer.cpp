@@ -13,8 +13,7 @@ const char* const kSourceName = "src/deserializer";
 
 // Sections that belong inside an object's section; finding one where an
 // object section should be means the data is misplaced, not unknown.
-const char* const kInnerSections[] = {"EngineData", "Child", "Content",
-                                      "List"};
+const char* const kInnerSections[] = {"EngineData", "Child", "Content", "List"};
 
 } // namespace
 

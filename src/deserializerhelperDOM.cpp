@@ -37,8 +37,8 @@ void requireOutput(const void* out, unsigned long line) {
 template <class Int> void parseInteger(const std::string& text, Int* out) {
   const char* digit = text.c_str();
   const char* const end = digit + text.size();
-  const bool negative = std::is_signed<Int>::value && digit != end &&
-                        *digit == '-';
+  const bool negative =
+      std::is_signed<Int>::value && digit != end && *digit == '-';
   if (negative)
     ++digit;
   const std::size_t count = static_cast<std::size_t>(end - digit);
@@ -183,8 +183,8 @@ bool DeserializerHelperDOM::getStringHelper(const std::string& key,
     return true;
   }
   std::cerr << "SerializerHelperDOM::setStringHelper(" << key << ", "
-            << "<not found!>" << ", " << static_cast<const void*>(target)
-            << ");" << std::endl;
+            << "<not found!>"
+            << ", " << static_cast<const void*>(target) << ");" << std::endl;
   out->clear();
   return false;
 }
@@ -276,8 +276,7 @@ bool DeserializerHelperDOM::getAddress(const std::string& key,
   return true;
 }
 
-bool DeserializerHelperDOM::getScope(const std::string& key,
-                                     Scope* out) const {
+bool DeserializerHelperDOM::getScope(const std::string& key, Scope* out) const {
   requireOutput(out, __LINE__);
   std::string text;
   if (!getValueText(key, &text))

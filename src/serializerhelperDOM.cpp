@@ -331,8 +331,7 @@ bool SerializerHelperDOM::setAddress(const std::string& key,
   return setValueText(key, text.c_str());
 }
 
-bool SerializerHelperDOM::setScope(const std::string& key,
-                                   const Scope& value) {
+bool SerializerHelperDOM::setScope(const std::string& key, const Scope& value) {
   std::string text;
   value.serialize(text);
   return setValueText(key, text.c_str());

@@ -261,8 +261,9 @@ TEST(DDManagerTest, EveryBoundRowCreatesAnObjectNamedAfterTheRow) {
                  {DDID_ReEntrantCallInfo, "ReEntrantCallItem"}};
   for (const auto& r : renamed) {
     const RTTITempl<DebuggerData>* rtti = Manager::st_DD_Name[r.row].rtti;
-    if (rtti)
+    if (rtti) {
       EXPECT_STREQ(rtti->getClassName(), r.identity);
+    }
   }
   int created = 0, bound = 0;
   for (const DD_NameRow& row : Manager::st_DD_Name) {

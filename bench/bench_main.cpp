@@ -1,0 +1,229 @@
+// The benchmark program's entry: runs the cases with the usual Google
+// Benchmark output (and --benchmark_out files), keeps every result, and ends
+// with one table of library/baseline ratios against their targets.
+#include "benchtree.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace Bench {
+
+namespace {
+
+// CPU time per iteration of one case, in nanoseconds, and its counters.
+struct Result {
+  std::vector<double> iterations; // one per repetition
+  double median = -1;             // the median aggregate, when reported
+  std::map<std::string, double> counters;
+  bool failed = false;
+
+  double nanoseconds() const {
+    if (median >= 0)
+      return median;
+    if (iterations.empty())
+      return -1;
+    std::vector<double> sorted = iterations;
+    std::sort(sorted.begin(), sorted.end());
+    return sorted[sorted.size() / 2];
+  }
+};
+
+double toNanoseconds(double time, benchmark::TimeUnit unit) {
+  return time * 1e9 / benchmark::GetTimeUnitMultiplier(unit);
+}
+
+// The console output as usual, and every run kept for the summary.
+class SummaryReporter : public benchmark::ConsoleReporter {
+public:
+  void ReportRuns(const std::vector<Run>& runs) override {
+    for (const Run& run : runs)
+      keep(run);
+    ConsoleReporter::ReportRuns(runs);
+  }
+
+  const Result* find(const std::string& name) const {
+    const auto found = m_results.find(name);
+    if (found == m_results.end() || found->second.failed ||
+        found->second.nanoseconds() < 0)
+      return nullptr;
+    return &found->second;
+  }
+
+private:
+  void keep(const Run& run) {
+    Result& result = m_results[run.run_name.str()];
+    if (run.error_occurred) {
+      result.failed = true;
+      return;
+    }
+    const double ns = toNanoseconds(run.GetAdjustedCPUTime(), run.time_unit);
+    if (run.run_type == Run::RT_Aggregate) {
+      if (run.aggregate_name == "median")
+        result.median = ns;
+      else
+        return;
+    } else {
+      result.iterations.push_back(ns);
+    }
+    for (const auto& counter : run.counters)
+      result.counters[counter.first] = counter.second.value;
+  }
+
+  std::map<std::string, Result> m_results;
+};
+
+// One line of the table: ratio = (library / libraryPer) / (baseline /
+// baselinePer), against target (0: reported without a target).
+struct Row {
+  std::string label;
+  std::string library;
+  std::string baseline;
+  double target;
+  double libraryPer = 1;
+  double baselinePer = 1;
+};
+
+std::string timeText(double ns) {
+  char text[32];
+  if (ns >= 1e6)
+    std::snprintf(text, sizeof text, "%9.2f ms", ns / 1e6);
+  else if (ns >= 1e3)
+    std::snprintf(text, sizeof text, "%9.2f us", ns / 1e3);
+  else
+    std::snprintf(text, sizeof text, "%9.2f ns", ns);
+  return text;
+}
+
+std::string sizeName(long n) {
+  return std::to_string(n);
+}
+
+std::vector<Row> ratioRows() {
+  std::vector<Row> rows;
+  for (long n : {kSmallN, kMediumN, kLargeN}) {
+    const std::string arg = "/" + sizeName(n);
+    rows.push_back({"DOM write N=" + sizeName(n), "DomWrite_Library" + arg,
+                    "DomWrite_Direct" + arg, 1.15});
+  }
+  rows.push_back({"DOM write N=10000 vs transcode",
+                  "DomWrite_Library/10000", "DomWrite_Transcode/10000", 1.15});
+  for (long n : {kSmallN, kMediumN, kLargeN}) {
+    const std::string arg = "/" + sizeName(n);
+    rows.push_back({"DOM read N=" + sizeName(n), "DomRead_Library" + arg,
+                    "DomRead_Direct" + arg, 1.25});
+  }
+  rows.push_back({"DOM read N=10000 vs transcode", "DomRead_Library/10000",
+                  "DomRead_Transcode/10000", 1.25});
+  for (long n : {kSmallN, kMediumN, kLargeN}) {
+    const std::string arg = "/" + sizeName(n);
+    rows.push_back({"Text dump N=" + sizeName(n), "TextDump_Library" + arg,
+                    "TextDump_Direct" + arg, 1.3});
+  }
+  rows.push_back({"Hex encode 1 MiB", "HexEncode_Library", "HexEncode_Table",
+                  1.1});
+  rows.push_back({"Hex encode vs memcpy", "HexEncode_Library",
+                  "HexEncode_Memcpy", 0});
+  rows.push_back({"Hex decode 1 MiB", "HexDecode_Library", "HexDecode_Table",
+                  1.1});
+  rows.push_back({"Hex decode vs memcpy", "HexDecode_Library",
+                  "HexDecode_Memcpy", 0});
+  rows.push_back({"Key parse", "KeyParse_Library", "KeyParse_Split", 1.5});
+  rows.push_back({"Key toString", "KeyToString_Library", "KeyToString_Join",
+                  1.5});
+  rows.push_back({"Key builder (7 sub keys)", "KeyBuild_Library",
+                  "KeyBuild_Vector", 1.5});
+  rows.push_back({"parseFullKey", "ParseFullKey_Library", "KeyParse_Split",
+                  3.0});
+  const std::string large = "/" + sizeName(kLargeN);
+  const std::string small = "/" + sizeName(kSmallN);
+  rows.push_back({"Scaling DOM write 1e5/1e3", "DomWrite_Library" + large,
+                  "DomWrite_Library" + small, 1.3, double(kLargeN),
+                  double(kSmallN)});
+  rows.push_back({"Scaling DOM read 1e5/1e3", "DomRead_Library" + large,
+                  "DomRead_Library" + small, 1.3, double(kLargeN),
+                  double(kSmallN)});
+  return rows;
+}
+
+void printRatios(const SummaryReporter& results) {
+  std::printf("\n%-32s %12s %12s %7s %7s  %s\n", "Case", "Library",
+              "Baseline", "Ratio", "Target", "Result");
+  for (const Row& row : ratioRows()) {
+    const Result* library = results.find(row.library);
+    const Result* baseline = results.find(row.baseline);
+    if (!library || !baseline) {
+      std::printf("%-32s %12s %12s %7s %7s  %s\n", row.label.c_str(), "-",
+                  "-", "-", "-", "n/a (not run or failed)");
+      continue;
+    }
+    const double lib = library->nanoseconds() / row.libraryPer;
+    const double base = baseline->nanoseconds() / row.baselinePer;
+    const double ratio = lib / base;
+    char target[16] = "-";
+    const char* verdict = "report";
+    if (row.target > 0) {
+      std::snprintf(target, sizeof target, "%.2f", row.target);
+      verdict = ratio <= row.target ? "PASS" : "MISS";
+    }
+    std::printf("%-32s %12s %12s %7.3f %7s  %s\n", row.label.c_str(),
+                timeText(lib).c_str(), timeText(base).c_str(), ratio, target,
+                verdict);
+  }
+}
+
+// Per-object figures: CPU time divided by the case's "objects" counter.
+void printPerObject(const SummaryReporter& results) {
+  std::printf("\n%-32s %12s %12s\n", "Per object (all data objects)",
+              "Time", "ns/object");
+  for (const char* name : {"Clone", "Compare", "DomWrite_Library",
+                           "DomRead_Library", "TextDump_Library"}) {
+    for (long n : {kSmallN, kMediumN, kLargeN}) {
+      const std::string full = std::string(name) + "/" + sizeName(n);
+      const Result* result = results.find(full);
+      if (!result || !result->counters.count("objects"))
+        continue;
+      const double ns = result->nanoseconds();
+      std::printf("%-32s %12s %12.1f\n", full.c_str(), timeText(ns).c_str(),
+                  ns / result->counters.at("objects"));
+    }
+  }
+}
+
+void printMemory(const SummaryReporter& results) {
+  const std::string name = "Memory/" + sizeName(kLargeN);
+  const auto found = results.find(name);
+  if (!found)
+    return;
+  std::printf("\nHeap in use per register, N=%ld (mallinfo2 deltas; one "
+              "register = a RegisterItem with its engine data, %.2f data "
+              "objects):\n",
+              kLargeN, double(objectCount(kLargeN)) / kLargeN);
+  for (const auto& counter : found->counters)
+    if (counter.first != "objects" && counter.first != "registers")
+      std::printf("  %-28s %10.0f bytes\n", counter.first.c_str(),
+                  counter.second);
+}
+
+} // namespace
+
+} // namespace Bench
+
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    return 1;
+  Bench::initialiseLibrary();
+  Bench::SummaryReporter reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
+  Bench::printRatios(reporter);
+  Bench::printPerObject(reporter);
+  Bench::printMemory(reporter);
+  benchmark::Shutdown();
+  return 0;
+}

@@ -1,0 +1,249 @@
+// The dbgdata command-line tool, run as a separate process (its path comes
+// from the environment variable DBGDATA_TOOL).
+#include "consoleiodata.h"
+#include "debuggerstatedata.h"
+#include "selfcheck.h"
+#include "serializerhelperDOM.h"
+#include "testsupport.h"
+#include "xmltext.h"
+
+#include <gtest/gtest.h>
+#include <xercesc/dom/DOM.hpp>
+
+#include <sys/wait.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <sstream>
+#include <string>
+
+using namespace Vemo::DbgData;
+namespace fs = std::filesystem;
+
+namespace {
+
+struct Run {
+  int status = -1;
+  std::string out;
+  std::string err;
+};
+
+std::string readFile(const fs::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
+void writeFile(const fs::path& path, const std::string& text) {
+  std::ofstream(path, std::ios::binary) << text;
+}
+
+std::size_t lineCount(const std::string& text) {
+  return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+}
+
+class ToolTest : public ::testing::Test {
+protected:
+  void SetUp() override {
+    const char* tool = std::getenv("DBGDATA_TOOL");
+    if (!tool || !*tool)
+      GTEST_SKIP() << "DBGDATA_TOOL is not set";
+    m_tool = tool;
+    std::string pattern =
+        (fs::temp_directory_path() / "dbgdata-tool-XXXXXX").string();
+    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
+    m_dir = pattern;
+  }
+  void TearDown() override {
+    if (!m_dir.empty())
+      fs::remove_all(m_dir);
+  }
+
+  fs::path file(const std::string& name, const std::string& text) {
+    const fs::path path = m_dir / name;
+    writeFile(path, text);
+    return path;
+  }
+
+  // Runs the tool with arguments (already quoted for the shell), standard
+  // input from stdinPath (or nothing).
+  Run run(const std::string& arguments, const fs::path& stdinPath = {}) {
+    const fs::path out = m_dir / "stdout";
+    const fs::path err = m_dir / "stderr";
+    const std::string input =
+        stdinPath.empty() ? "/dev/null" : stdinPath.string();
+    const std::string command = "'" + m_tool + "' " + arguments + " <'" +
+                                input + "' >'" + out.string() + "' 2>'" +
+                                err.string() + "'";
+    const int raw = std::system(command.c_str());
+    Run result;
+    result.status = WIFEXITED(raw) ? WEXITSTATUS(raw) : 1000 + raw;
+    result.out = readFile(out);
+    result.err = readFile(err);
+    return result;
+  }
+
+  std::string m_tool;
+  fs::path m_dir;
+};
+
+} // namespace
+
+TEST_F(ToolTest, SelfCheckPassesAndUsageErrorsExitWithTwo) {
+  const Run check = run("selfcheck");
+  EXPECT_EQ(check.status, 0);
+  EXPECT_EQ(check.err, "");
+  EXPECT_GT(lineCount(check.out), 55u);
+  EXPECT_NE(check.out.find("Test for debugger data class DataListWC "
+                           "successfully completed.\n"),
+            std::string::npos);
+
+  EXPECT_EQ(run("").status, 2);
+  EXPECT_EQ(run("frobnicate").status, 2);
+  EXPECT_EQ(run("selfcheck extra").status, 2);
+  EXPECT_EQ(run("key").status, 2);
+  EXPECT_EQ(run("dump a b").status, 2);
+  for (const char* help : {"--help", "-h", "selfcheck --help", "dump -h",
+                           "key --help"}) {
+    const Run shown = run(help);
+    EXPECT_EQ(shown.status, 0) << help;
+    EXPECT_EQ(shown.out.rfind("Usage: dbgdata", 0), 0u) << help;
+  }
+}
+
+TEST_F(ToolTest, DumpOfLibraryWrittenXmlMatchesTheDirectDump) {
+  std::string direct;
+  std::string flat;
+  std::string indented;
+  {
+    XmlPlatform xml;
+    SerializerHelperDOM writer;
+    auto list = TestSupport::make<DataListWC>("DataListWC", "regs");
+    auto prompt = TestSupport::make<CurDbgPrompt>("CurDbgPrompt", "p");
+    auto line = TestSupport::make<ConsoleIOHistoryItem>(
+        "ConsoleIOHistoryItem", "7");
+    auto scope = TestSupport::make<CurScope>("CurScope", "c");
+    fillDataListWC(list.get());
+    fillCurDbgPrompt(prompt.get());
+    fillConsoleIOHistoryItem(line.get());
+    fillCurScope(scope.get());
+    for (const DebuggerData* object :
+         {static_cast<const DebuggerData*>(list.get()),
+          static_cast<const DebuggerData*>(prompt.get()),
+          static_cast<const DebuggerData*>(line.get()),
+          static_cast<const DebuggerData*>(scope.get())}) {
+      ASSERT_TRUE(object->serialize(&writer));
+      direct += TestSupport::dumpText(*object);
+    }
+    ASSERT_TRUE(writeXmlText(writer.getDocument(), false, &flat));
+    ASSERT_TRUE(writeXmlText(writer.getDocument(), true, &indented));
+  }
+  ASSERT_NE(indented.find("\n  <"), std::string::npos);
+
+  const Run fromFlat = run("dump '" + file("flat.xml", flat).string() + "'");
+  EXPECT_EQ(fromFlat.status, 0) << fromFlat.err;
+  EXPECT_EQ(fromFlat.out, direct);
+  const Run fromStdin = run("dump -", file("indented.xml", indented));
+  EXPECT_EQ(fromStdin.status, 0) << fromStdin.err;
+  EXPECT_EQ(fromStdin.out, direct);
+  EXPECT_EQ(fromStdin.err, "");
+}
+
+TEST_F(ToolTest, MalformedInputGivesOneLineAndExitTwo) {
+  const std::string prompt =
+      "<DataElement ClassName=\"CurDbgPrompt\" SubKey=\"p\"><attributes/>"
+      "<values PromptText=\"&gt;\"/></DataElement>";
+  const auto container = [](const std::string& inner) {
+    return "<UserContentContainer>" + inner + "</UserContentContainer>";
+  };
+  struct Case {
+    const char* name;
+    std::string text;
+    const char* says;
+  };
+  const Case cases[] = {
+      {"not XML", "just text", "1:1: not XML"},
+      {"truncated", "<UserContentContainer>\n<DataElement", "2:"},
+      {"wrong root", "<Objects/>", "document element is \"Objects\""},
+      {"Child under the root", container("<Child>" + prompt + "</Child>"),
+       "not the layout"},
+      {"no ClassName",
+       container("<DataElement SubKey=\"s\"><attributes/><values/>"
+                 "</DataElement>"),
+       "'ClassName'"},
+      {"text in a list",
+       container("<DataList ClassName=\"DataList\" SubKey=\"l\"><List>x"
+                 "</List></DataList>"),
+       "not the layout"},
+      {"empty Child",
+       container("<DataList ClassName=\"DataList\" SubKey=\"l\"><List>"
+                 "<Child/></List></DataList>"),
+       "not the layout"},
+      {"empty EngineData",
+       container("<DataElement ClassName=\"Root\" SubKey=\"r\"><attributes/>"
+                 "<values/><EngineData/></DataElement>"),
+       "not the layout"},
+      {"leaf class in a list section",
+       container("<DataList ClassName=\"Root\" SubKey=\"l\"><List/>"
+                 "</DataList>"),
+       "'ClassName'"},
+      {"unknown class", container(prompt + "<DataElement ClassName=\"Nope\" "
+                                  "SubKey=\"n\"><attributes/><values/>"
+                                  "</DataElement>"),
+       "object 2 (class \"Nope\") cannot be made"},
+      {"document type",
+       "<!DOCTYPE UserContentContainer [<!ENTITY e \"e\">]>" + container(""),
+       "not XML"},
+  };
+  for (const Case& c : cases) {
+    const Run result = run("dump '" + file("bad.xml", c.text).string() + "'");
+    EXPECT_EQ(result.status, 2) << c.name;
+    EXPECT_EQ(result.out, "") << c.name;
+    EXPECT_EQ(lineCount(result.err), 1u) << c.name << ": " << result.err;
+    EXPECT_NE(result.err.find(c.says), std::string::npos)
+        << c.name << ": " << result.err;
+  }
+
+  const Run missing = run("dump '" + (m_dir / "missing.xml").string() + "'");
+  EXPECT_EQ(missing.status, 2);
+  EXPECT_EQ(missing.err, "dbgdata: " + (m_dir / "missing.xml").string() +
+                             ": cannot read: No such file or directory\n");
+
+  // Comments and processing instructions between the children are dropped
+  // before the reader walks the list.
+  const Run commented = run(
+      "dump '" +
+      file("commented.xml",
+           container("<DataList ClassName=\"DataList\" SubKey=\"l\"><List>"
+                     "<!-- c --><?pi x?><Child>" +
+                     prompt + "</Child></List></DataList>"))
+          .string() +
+      "'");
+  EXPECT_EQ(commented.status, 0) << commented.err;
+  EXPECT_NE(commented.out.find("PromptText=>"), std::string::npos);
+}
+
+TEST_F(ToolTest, KeyPrintsPlaceConsumedKeyAndItemPositions) {
+  const Run parsed = run("key '/Root/ParallelJob[]/0/Jobs[]/1/Events/"
+                         "BreakPoints[]/7' /Root/Console/CurDbgPrompt");
+  EXPECT_EQ(parsed.status, 0);
+  EXPECT_EQ(parsed.out,
+            "/Root/ParallelJob[]/0/Jobs[]/1/Events/BreakPoints[]/7\n"
+            "  place: 48 (item of BreakPointItem)\n"
+            "  consumed: /Root/ParallelJob[]/0/Jobs[]/1/Events/BreakPoints[]/7\n"
+            "  item positions: 2 4 7\n"
+            "/Root/Console/CurDbgPrompt\n"
+            "  place: 6 \"CurDbgPrompt\" (CurDbgPrompt)\n"
+            "  consumed: /Root/Console/CurDbgPrompt\n"
+            "  item positions: none\n");
+
+  const Run rejected = run("key /Root/DebuggerState/'<RsrvdState3>' /Root");
+  EXPECT_EQ(rejected.status, 1);
+  EXPECT_EQ(rejected.out.rfind("/Root/DebuggerState/<RsrvdState3>\n"
+                               "  does not parse as a full key\n/Root\n",
+                               0),
+            0u);
+}
