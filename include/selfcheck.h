@@ -11,6 +11,7 @@
 #ifndef DBGDATA_SELFCHECK_H
 #define DBGDATA_SELFCHECK_H
 
+#include "../Common/DDAssert.h"
 #include "ddmanager.h"
 #include "debuggerdata.h"
 #include "serializerhelper.h"
@@ -101,7 +102,8 @@ typedef void (*SelfCheckFill)(Vemo::DbgData::DebuggerData* object);
 // Registers fill for the objects the factory makes for row id; answers true
 // (it runs at load time). A second fill for the same row is a programming
 // error.
-bool registerSelfCheckFill(Vemo::DbgData::DebuggerDataID id, SelfCheckFill fill);
+bool registerSelfCheckFill(Vemo::DbgData::DebuggerDataID id,
+                           SelfCheckFill fill);
 // The fill registered for row id, or null.
 SelfCheckFill findSelfCheckFill(Vemo::DbgData::DebuggerDataID id);
 
@@ -218,8 +220,6 @@ bool runSerializationRoundTrip(const std::string& className);
 int runSelfCheck();
 
 // ---------------------------------------------------------------------------
-
-#include "../Common/DDAssert.h"
 
 template <class C, void (*Fill)(C*)>
 void selfCheckFillAs(Vemo::DbgData::DebuggerData* object) {

@@ -46,8 +46,7 @@ bool runFullKeyCheck(bool (*build)(DbgDataKey& key),
                      DDHierarchyID expectedPlace) {
   DbgDataKey key;
   DbgDataManager::DataHierarchy hierarchy;
-  const bool passed = build(key) &&
-                      st_ddmanager.parseFullKey(key, hierarchy) &&
+  const bool passed = build(key) && st_ddmanager.parseFullKey(key, hierarchy) &&
                       hierarchy.place == expectedPlace && hierarchy.key == key;
   if (passed)
     report_fullkey_ok(key);

@@ -26,8 +26,8 @@ void error_serialization(const std::string& className) {
 }
 
 void error_deserialization(const std::string& className) {
-  std::cerr << "Error: Could not deserialize debugger data class "
-            << className << "." << std::endl;
+  std::cerr << "Error: Could not deserialize debugger data class " << className
+            << "." << std::endl;
 }
 
 void error_deserialization_listsize(const std::string& className) {

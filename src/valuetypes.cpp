@@ -278,18 +278,17 @@ bool StringVector::deserialize(const std::string& name,
   m_items.clear();
   unsigned long count = 0;
   bool result = reader->getInt(name + "_Size", &count);
+  // A count beyond kMaxCount cannot come from a list this library wrote
+  // into one record; it is refused as unreadable instead of driving a loop
+  // of that length (the XML reader answers a missing item as found, empty).
+  const unsigned long kMaxCount = 1ul << 20;
+  if (count > kMaxCount)
+    return false;
   // Every index below the stored count gets an item, read or not, so that
-  // the list keeps its stored length. A count beyond kTrustedCount cannot
-  // come from a list this library wrote into one record; for such a count
-  // the loop stops at the first missing item instead of adding empty items
-  // without end.
-  const unsigned long kTrustedCount = 1ul << 20;
+  // the list keeps its stored length.
   for (unsigned long i = 0; i < count; ++i) {
     std::string item;
-    const bool found = reader->getString(itemKey(name, i), &item);
-    result = found && result;
-    if (!found && count > kTrustedCount)
-      break;
+    result = reader->getString(itemKey(name, i), &item) && result;
     addItem(item);
   }
   return result;

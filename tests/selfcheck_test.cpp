@@ -251,8 +251,9 @@ TEST(SelfCheckFill, SamplesDifferFromDefaultsAndCarryEngineData) {
     std::unique_ptr<DebuggerData> fresh(st_ddmanager.factory(name, "s"));
     fill(filled.get());
     EXPECT_EQ(*filled == *fresh, noOwnMembers.count(name) == 1) << name;
-    if (filled->isKindOf(DataElement::staticRtti()))
+    if (filled->isKindOf(DataElement::staticRtti())) {
       EXPECT_NE(filled->getEngineData(), nullptr) << name;
+    }
   }
 
   // The standard engine data, and the registers of the sample list.

@@ -26,7 +26,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-struct Run {
+struct ToolRun {
   int status = -1;
   std::string out;
   std::string err;
@@ -70,7 +70,7 @@ protected:
 
   // Runs the tool with arguments (already quoted for the shell), standard
   // input from stdinPath (or nothing).
-  Run run(const std::string& arguments, const fs::path& stdinPath = {}) {
+  ToolRun run(const std::string& arguments, const fs::path& stdinPath = {}) {
     const fs::path out = m_dir / "stdout";
     const fs::path err = m_dir / "stderr";
     const std::string input =
@@ -79,7 +79,7 @@ protected:
                                 input + "' >'" + out.string() + "' 2>'" +
                                 err.string() + "'";
     const int raw = std::system(command.c_str());
-    Run result;
+    ToolRun result;
     result.status = WIFEXITED(raw) ? WEXITSTATUS(raw) : 1000 + raw;
     result.out = readFile(out);
     result.err = readFile(err);
@@ -93,7 +93,7 @@ protected:
 } // namespace
 
 TEST_F(ToolTest, SelfCheckPassesAndUsageErrorsExitWithTwo) {
-  const Run check = run("selfcheck");
+  const ToolRun check = run("selfcheck");
   EXPECT_EQ(check.status, 0);
   EXPECT_EQ(check.err, "");
   EXPECT_GT(lineCount(check.out), 55u);
@@ -106,9 +106,9 @@ TEST_F(ToolTest, SelfCheckPassesAndUsageErrorsExitWithTwo) {
   EXPECT_EQ(run("selfcheck extra").status, 2);
   EXPECT_EQ(run("key").status, 2);
   EXPECT_EQ(run("dump a b").status, 2);
-  for (const char* help : {"--help", "-h", "selfcheck --help", "dump -h",
-                           "key --help"}) {
-    const Run shown = run(help);
+  for (const char* help :
+       {"--help", "-h", "selfcheck --help", "dump -h", "key --help"}) {
+    const ToolRun shown = run(help);
     EXPECT_EQ(shown.status, 0) << help;
     EXPECT_EQ(shown.out.rfind("Usage: dbgdata", 0), 0u) << help;
   }
@@ -123,8 +123,8 @@ TEST_F(ToolTest, DumpOfLibraryWrittenXmlMatchesTheDirectDump) {
     SerializerHelperDOM writer;
     auto list = TestSupport::make<DataListWC>("DataListWC", "regs");
     auto prompt = TestSupport::make<CurDbgPrompt>("CurDbgPrompt", "p");
-    auto line = TestSupport::make<ConsoleIOHistoryItem>(
-        "ConsoleIOHistoryItem", "7");
+    auto line =
+        TestSupport::make<ConsoleIOHistoryItem>("ConsoleIOHistoryItem", "7");
     auto scope = TestSupport::make<CurScope>("CurScope", "c");
     fillDataListWC(list.get());
     fillCurDbgPrompt(prompt.get());
@@ -143,10 +143,11 @@ TEST_F(ToolTest, DumpOfLibraryWrittenXmlMatchesTheDirectDump) {
   }
   ASSERT_NE(indented.find("\n  <"), std::string::npos);
 
-  const Run fromFlat = run("dump '" + file("flat.xml", flat).string() + "'");
+  const ToolRun fromFlat =
+      run("dump '" + file("flat.xml", flat).string() + "'");
   EXPECT_EQ(fromFlat.status, 0) << fromFlat.err;
   EXPECT_EQ(fromFlat.out, direct);
-  const Run fromStdin = run("dump -", file("indented.xml", indented));
+  const ToolRun fromStdin = run("dump -", file("indented.xml", indented));
   EXPECT_EQ(fromStdin.status, 0) << fromStdin.err;
   EXPECT_EQ(fromStdin.out, direct);
   EXPECT_EQ(fromStdin.err, "");
@@ -190,16 +191,18 @@ TEST_F(ToolTest, MalformedInputGivesOneLineAndExitTwo) {
        container("<DataList ClassName=\"Root\" SubKey=\"l\"><List/>"
                  "</DataList>"),
        "'ClassName'"},
-      {"unknown class", container(prompt + "<DataElement ClassName=\"Nope\" "
-                                  "SubKey=\"n\"><attributes/><values/>"
-                                  "</DataElement>"),
+      {"unknown class",
+       container(prompt + "<DataElement ClassName=\"Nope\" "
+                          "SubKey=\"n\"><attributes/><values/>"
+                          "</DataElement>"),
        "object 2 (class \"Nope\") cannot be made"},
       {"document type",
        "<!DOCTYPE UserContentContainer [<!ENTITY e \"e\">]>" + container(""),
        "not XML"},
   };
   for (const Case& c : cases) {
-    const Run result = run("dump '" + file("bad.xml", c.text).string() + "'");
+    const ToolRun result =
+        run("dump '" + file("bad.xml", c.text).string() + "'");
     EXPECT_EQ(result.status, 2) << c.name;
     EXPECT_EQ(result.out, "") << c.name;
     EXPECT_EQ(lineCount(result.err), 1u) << c.name << ": " << result.err;
@@ -207,40 +210,42 @@ TEST_F(ToolTest, MalformedInputGivesOneLineAndExitTwo) {
         << c.name << ": " << result.err;
   }
 
-  const Run missing = run("dump '" + (m_dir / "missing.xml").string() + "'");
+  const ToolRun missing =
+      run("dump '" + (m_dir / "missing.xml").string() + "'");
   EXPECT_EQ(missing.status, 2);
   EXPECT_EQ(missing.err, "dbgdata: " + (m_dir / "missing.xml").string() +
                              ": cannot read: No such file or directory\n");
 
   // Comments and processing instructions between the children are dropped
   // before the reader walks the list.
-  const Run commented = run(
-      "dump '" +
-      file("commented.xml",
-           container("<DataList ClassName=\"DataList\" SubKey=\"l\"><List>"
-                     "<!-- c --><?pi x?><Child>" +
-                     prompt + "</Child></List></DataList>"))
-          .string() +
-      "'");
+  const ToolRun commented =
+      run("dump '" +
+          file("commented.xml",
+               container("<DataList ClassName=\"DataList\" SubKey=\"l\"><List>"
+                         "<!-- c --><?pi x?><Child>" +
+                         prompt + "</Child></List></DataList>"))
+              .string() +
+          "'");
   EXPECT_EQ(commented.status, 0) << commented.err;
   EXPECT_NE(commented.out.find("PromptText=>"), std::string::npos);
 }
 
 TEST_F(ToolTest, KeyPrintsPlaceConsumedKeyAndItemPositions) {
-  const Run parsed = run("key '/Root/ParallelJob[]/0/Jobs[]/1/Events/"
-                         "BreakPoints[]/7' /Root/Console/CurDbgPrompt");
+  const ToolRun parsed = run("key '/Root/ParallelJob[]/0/Jobs[]/1/Events/"
+                             "BreakPoints[]/7' /Root/Console/CurDbgPrompt");
   EXPECT_EQ(parsed.status, 0);
-  EXPECT_EQ(parsed.out,
-            "/Root/ParallelJob[]/0/Jobs[]/1/Events/BreakPoints[]/7\n"
-            "  place: 48 (item of BreakPointItem)\n"
-            "  consumed: /Root/ParallelJob[]/0/Jobs[]/1/Events/BreakPoints[]/7\n"
-            "  item positions: 2 4 7\n"
-            "/Root/Console/CurDbgPrompt\n"
-            "  place: 6 \"CurDbgPrompt\" (CurDbgPrompt)\n"
-            "  consumed: /Root/Console/CurDbgPrompt\n"
-            "  item positions: none\n");
+  EXPECT_EQ(
+      parsed.out,
+      "/Root/ParallelJob[]/0/Jobs[]/1/Events/BreakPoints[]/7\n"
+      "  place: 48 (item of BreakPointItem)\n"
+      "  consumed: /Root/ParallelJob[]/0/Jobs[]/1/Events/BreakPoints[]/7\n"
+      "  item positions: 2 4 7\n"
+      "/Root/Console/CurDbgPrompt\n"
+      "  place: 6 \"CurDbgPrompt\" (CurDbgPrompt)\n"
+      "  consumed: /Root/Console/CurDbgPrompt\n"
+      "  item positions: none\n");
 
-  const Run rejected = run("key /Root/DebuggerState/'<RsrvdState3>' /Root");
+  const ToolRun rejected = run("key /Root/DebuggerState/'<RsrvdState3>' /Root");
   EXPECT_EQ(rejected.status, 1);
   EXPECT_EQ(rejected.out.rfind("/Root/DebuggerState/<RsrvdState3>\n"
                                "  does not parse as a full key\n/Root\n",

@@ -346,10 +346,14 @@ TEST(StringVectorTest, ReadingKeepsTheStoredCount) {
   reader.values["e_Size"] = "0";
   EXPECT_TRUE(vector.deserialize("e", &reader));
 
-  // A damaged count far beyond any real list stops at the first gap.
+  // A damaged count far beyond any real list is refused as a whole; the
+  // largest accepted count still keeps every index.
   reader.values["l_Size"] = "9223372036854775808";
   EXPECT_FALSE(vector.deserialize("l", &reader));
-  EXPECT_EQ(vector.getSize(), 3u);
+  EXPECT_EQ(vector.getSize(), 0u);
+  reader.values["l_Size"] = std::to_string(1ul << 20);
+  EXPECT_FALSE(vector.deserialize("l", &reader));
+  EXPECT_EQ(vector.getSize(), 1ul << 20);
 }
 
 TEST(StringVectorTest, QueriesAndText) {

@@ -186,7 +186,8 @@ int runDumpCommand(const std::string& path) {
 // ---------------------------------------------------------------------------
 // key
 
-// "48 (item of BreakPointItem)" or "47 \"BreakPoints[]\" (BreakPointListContent)".
+// For example "48 (item of BreakPointItem)", or for a named place
+// "47 \"BreakPoints[]\" (BreakPointListContent)".
 std::string describePlace(DDHierarchyID place) {
   std::string text = std::to_string(static_cast<int>(place));
   if (place < 0 || place >= DbgDataManager::DDH_NameCount)

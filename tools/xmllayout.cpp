@@ -11,8 +11,6 @@
 #include <xercesc/validators/common/Grammar.hpp>
 
 #include <cstring>
-#include <utility>
-#include <vector>
 
 using namespace xercesc;
 
@@ -190,42 +188,63 @@ typedef std::unique_ptr<DOMLSInput, InputReleaser> InputPtr;
 // An input over bytes that stay owned by the caller.
 InputPtr makeInput(const char* bytes, std::size_t length, const XMLCh* id) {
   return InputPtr(new Wrapper4InputSource(
-      new MemBufInputSource(reinterpret_cast<const XMLByte*>(bytes), length,
-                            id, false),
+      new MemBufInputSource(reinterpret_cast<const XMLByte*>(bytes), length, id,
+                            false),
       true));
 }
 
-// Removes every node below root that is not an element and answers the
-// depth of the deepest element (root counts 1). Iterative, so that no depth
-// of input can exhaust the stack here.
-unsigned pruneToElements(DOMElement* root) {
-  unsigned deepest = 0;
-  std::vector<std::pair<DOMNode*, unsigned>> pending{{root, 1}};
-  while (!pending.empty()) {
-    const auto [node, depth] = pending.back();
-    pending.pop_back();
-    if (depth > deepest)
-      deepest = depth;
-    DOMNode* child = node->getFirstChild();
-    while (child) {
-      DOMNode* next = child->getNextSibling();
-      if (child->getNodeType() == DOMNode::ELEMENT_NODE)
-        pending.emplace_back(child, depth + 1);
-      else
-        node->removeChild(child)->release();
-      child = next;
-    }
+// Keeps nothing but elements (drops indentation that is not ignorable,
+// processing instructions and the like; the layout carries all data in
+// attributes) and interrupts the parse at the first element nested deeper
+// than the limit, before the XML library spends time on such a tree.
+class ElementsOnly : public DOMLSParserFilter {
+public:
+  explicit ElementsOnly(unsigned maxDepth) : m_maxDepth(maxDepth) {}
+
+  FilterAction startElement(DOMElement*) override {
+    if (++m_depth <= m_maxDepth)
+      return FILTER_ACCEPT;
+    m_tooDeep = true;
+    return FILTER_INTERRUPT;
   }
-  return deepest;
-}
+  FilterAction acceptNode(DOMNode* node) override {
+    if (node->getNodeType() != DOMNode::ELEMENT_NODE)
+      return FILTER_REJECT;
+    --m_depth;
+    return FILTER_ACCEPT;
+  }
+  DOMNodeFilter::ShowType getWhatToShow() const override {
+    return DOMNodeFilter::SHOW_ALL;
+  }
+
+  bool tooDeep() const { return m_tooDeep; }
+
+private:
+  const unsigned m_maxDepth;
+  unsigned m_depth = 0;
+  bool m_tooDeep = false;
+};
+
+// Installs a filter on a parser for the lifetime of the object.
+class FilterScope {
+public:
+  FilterScope(DOMLSParser* parser, DOMLSParserFilter* filter)
+      : m_parser(parser) {
+    m_parser->setFilter(filter);
+  }
+  ~FilterScope() { m_parser->setFilter(nullptr); }
+  FilterScope(const FilterScope&) = delete;
+  FilterScope& operator=(const FilterScope&) = delete;
+
+private:
+  DOMLSParser* m_parser;
+};
 
 } // namespace
 
 void LayoutReader::ParserReleaser::operator()(DOMLSParser* parser) const {
   parser->release();
 }
-
-const char* LayoutReader::schemaText() { return kSchema; }
 
 LayoutReader::LayoutReader() {
   try {
@@ -235,9 +254,9 @@ LayoutReader::LayoutReader() {
       m_setupProblem = "no DOM implementation for reading XML text";
       return;
     }
-    m_parser.reset(static_cast<DOMImplementationLS*>(implementation)
-                       ->createLSParser(DOMImplementationLS::MODE_SYNCHRONOUS,
-                                        nullptr));
+    m_parser.reset(
+        static_cast<DOMImplementationLS*>(implementation)
+            ->createLSParser(DOMImplementationLS::MODE_SYNCHRONOUS, nullptr));
     DOMConfiguration* config = m_parser->getDomConfig();
     config->setParameter(XMLUni::fgDOMNamespaces, true);
     config->setParameter(XMLUni::fgXercesSchema, true);
@@ -276,27 +295,38 @@ DOMDocument* LayoutReader::read(const std::string& text, std::string* problem) {
     return nullptr;
   }
   FirstError firstError;
+  ElementsOnly filter(kMaxDepth);
+  const std::string tooDeep =
+      "objects nested deeper than " + std::to_string(kMaxDepth) + " elements";
   DOMDocument* document = nullptr;
   try {
     HandlerScope handler(m_parser->getDomConfig(), &firstError);
+    FilterScope filtering(m_parser.get(), &filter);
     InputPtr input = makeInput(text.data(), text.size(), kTextId);
     document = m_parser->parse(input.get());
-  } catch (const XMLException& e) {
-    *problem = "not XML: " + oneLine(toUtf8(e.getMessage()));
-    return nullptr;
   } catch (const DOMLSException& e) {
-    *problem = firstError.seen() ? firstError.describe("not XML")
-                                 : "not XML: " + oneLine(toUtf8(e.getMessage()));
+    // Also the way an interrupting filter ends the parse.
+    *problem = filter.tooDeep() ? tooDeep
+               : firstError.seen()
+                   ? firstError.describe("not XML")
+                   : "not XML: " + oneLine(toUtf8(e.getMessage()));
     return nullptr;
   } catch (const DOMException& e) {
+    *problem = "not XML: " + oneLine(toUtf8(e.getMessage()));
+    return nullptr;
+  } catch (const XMLException& e) {
     *problem = "not XML: " + oneLine(toUtf8(e.getMessage()));
     return nullptr;
   } catch (const OutOfMemoryException&) {
     *problem = "out of memory";
     return nullptr;
   }
+  if (filter.tooDeep()) {
+    *problem = tooDeep;
+    return nullptr;
+  }
 
-  DOMElement* root = document ? document->getDocumentElement() : nullptr;
+  const DOMElement* root = document ? document->getDocumentElement() : nullptr;
   if (!root || (firstError.seen() && firstError.fatal())) {
     *problem = firstError.seen() ? firstError.describe("not XML")
                                  : "not XML: no document element";
@@ -310,11 +340,6 @@ DOMDocument* LayoutReader::read(const std::string& text, std::string* problem) {
   }
   if (firstError.seen()) {
     *problem = firstError.describe("not the layout of serialized data");
-    return nullptr;
-  }
-  if (pruneToElements(root) > kMaxDepth) {
-    *problem = "objects nested deeper than " + std::to_string(kMaxDepth) +
-               " elements";
     return nullptr;
   }
   return document;

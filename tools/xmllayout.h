@@ -46,9 +46,6 @@ public:
   // destructors and the writers recurse once per level.
   static const unsigned kMaxDepth = 600;
 
-  // The XML Schema of the layout.
-  static const char* schemaText();
-
 private:
   struct ParserReleaser {
     void operator()(xercesc::DOMLSParser* parser) const;
