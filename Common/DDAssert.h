@@ -25,8 +25,8 @@ namespace DbgData {
 } // namespace Vemo
 
 #define DD_ASSERT(expr)                                                        \
-  ((expr) ? static_cast<void>(0)                                               \
-          : ::Vemo::DbgData::ddAssertFail(#expr, __FILE__, __LINE__,           \
-                                          __func__))
+  ((expr)                                                                      \
+       ? static_cast<void>(0)                                                  \
+       : ::Vemo::DbgData::ddAssertFail(#expr, __FILE__, __LINE__, __func__))
 
 #endif

@@ -12,8 +12,8 @@ std::vector<const RTTITempl<TOwnerHierBase>*>*
 
 template <class TOwnerHierBase>
 RTTITempl<TOwnerHierBase>::RTTITempl(const char* className)
-    : _pszClassName(className),
-      _pParents(new std::vector<const RTTITempl*>()), _nClassId(-1) {
+    : _pszClassName(className), _pParents(new std::vector<const RTTITempl*>()),
+      _nClassId(-1) {
   if (!s_parRegisteredRttis)
     s_parRegisteredRttis = new (std::nothrow) std::vector<const RTTITempl*>();
   DD_ASSERT(s_parRegisteredRttis);

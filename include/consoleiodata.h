@@ -11,7 +11,9 @@ namespace DbgData {
 
 // Kind of a console history line. The enumerators belong to the console
 // protocol; the library stores and transports the value as an int.
-enum DD_ConsoleIOHistoryItemType : std::int32_t { ConsoleIOHistory_Undefined = 0 };
+enum DD_ConsoleIOHistoryItemType : std::int32_t {
+  ConsoleIOHistory_Undefined = 0
+};
 
 class ConsoleIOHistoryItem : public DataElement {
   DD_DATA_CLASS(ConsoleIOHistoryItem, DataElement)

@@ -16,12 +16,13 @@
 // AND of all results.
 //
 // Deliberate differences are options on the field's own line:
-//   field("ModValue", &C::m_ModifyValue);                 key differs from member
-//   field("Bytes", &C::m_bytes, Field::notCompared);      left out of ==
+//   field("ModValue", &C::m_ModifyValue);                 key differs from
+//   member field("Bytes", &C::m_bytes, Field::notCompared);      left out of ==
 //   field("LineText", &C::m_text, Field::writtenAs(f));   one-way conversion
 //
-// In the header:  class X : public DataElement { DD_DATA_CLASS(X, DataElement) ... };
-// In the source:  DD_DATA_CLASS_IMPL(X, "src/x.cpp") after describeFields.
+// In the header:  class X : public DataElement { DD_DATA_CLASS(X, DataElement)
+// ... }; In the source:  DD_DATA_CLASS_IMPL(X, "src/x.cpp") after
+// describeFields.
 #ifndef DBGDATA_DATACLASS_H
 #define DBGDATA_DATACLASS_H
 
@@ -63,6 +64,7 @@ constexpr Options writtenAs(StringConversion conversion) {
 } // namespace Field
 
 // One writer call per value type. Enumerations travel as signed ints.
+// clang-format off
 inline bool writeValue(ISerializerHelper* w, const std::string& k, bool v) { return w->setBool(k, v); }
 inline bool writeValue(ISerializerHelper* w, const std::string& k, int v) { return w->setInt(k, v); }
 inline bool writeValue(ISerializerHelper* w, const std::string& k, unsigned int v) { return w->setInt(k, v); }
@@ -76,6 +78,7 @@ inline bool writeValue(ISerializerHelper* w, const std::string& k, const Address
 inline bool writeValue(ISerializerHelper* w, const std::string& k, const Scope& v) { return w->setScope(k, v); }
 inline bool writeValue(ISerializerHelper* w, const std::string& k, const DbgDataKey& v) { return w->setDbgDataKey(k, v); }
 inline bool writeValue(ISerializerHelper* w, const std::string& k, const StringVector& v) { return v.serialize(k, w); }
+// clang-format on
 template <class E, std::enable_if_t<std::is_enum<E>::value, int> = 0>
 bool writeValue(ISerializerHelper* w, const std::string& k, E v) {
   return w->setInt(k, static_cast<int>(v));
@@ -83,6 +86,7 @@ bool writeValue(ISerializerHelper* w, const std::string& k, E v) {
 
 // The matching reader calls. A value whose key is absent keeps what the
 // reader leaves in it (the member's default, or 0 for a missing section).
+// clang-format off
 inline bool readValue(IDeserializerHelper* r, const std::string& k, bool& v) { return r->getBool(k, &v); }
 inline bool readValue(IDeserializerHelper* r, const std::string& k, int& v) { return r->getInt(k, &v); }
 inline bool readValue(IDeserializerHelper* r, const std::string& k, unsigned int& v) { return r->getInt(k, &v); }
@@ -96,6 +100,7 @@ inline bool readValue(IDeserializerHelper* r, const std::string& k, Address& v) 
 inline bool readValue(IDeserializerHelper* r, const std::string& k, Scope& v) { return r->getScope(k, &v); }
 inline bool readValue(IDeserializerHelper* r, const std::string& k, DbgDataKey& v) { return r->getDbgDataKey(k, &v); }
 inline bool readValue(IDeserializerHelper* r, const std::string& k, StringVector& v) { return v.deserialize(k, r); }
+// clang-format on
 template <class E, std::enable_if_t<std::is_enum<E>::value, int> = 0>
 bool readValue(IDeserializerHelper* r, const std::string& k, E& v) {
   // Every enumeration carried by data objects has a fixed underlying type,
@@ -114,12 +119,14 @@ template <class C> struct DataClassOps {
     ISerializerHelper* writer;
     bool result;
     template <class T>
-    void operator()(const char* key, T C::*member, Field::Options options = {}) {
+    void operator()(const char* key, T C::*member,
+                    Field::Options options = {}) {
       bool written;
       if constexpr (std::is_same<T, std::string>::value) {
-        written = options.writtenAs
-                      ? writeValue(writer, key, options.writtenAs(object.*member))
-                      : writeValue(writer, key, object.*member);
+        written =
+            options.writtenAs
+                ? writeValue(writer, key, options.writtenAs(object.*member))
+                : writeValue(writer, key, object.*member);
       } else {
         written = writeValue(writer, key, object.*member);
       }
@@ -212,8 +219,12 @@ template <class C> struct DataClassOps {
   virtual void setSrcFullKey(const ::Vemo::DbgData::DbgDataKey& key) {         \
     scopeMember.setKey(key);                                                   \
   }                                                                            \
-  virtual unsigned long getSrcLine() const { return scopeMember.getNumber1(); } \
-  virtual void setSrcLine(unsigned long line) { scopeMember.setNumber1(line); } \
+  virtual unsigned long getSrcLine() const {                                   \
+    return scopeMember.getNumber1();                                           \
+  }                                                                            \
+  virtual void setSrcLine(unsigned long line) {                                \
+    scopeMember.setNumber1(line);                                              \
+  }                                                                            \
   virtual unsigned long getSrcColumn() const {                                 \
     return scopeMember.getNumber2();                                           \
   }                                                                            \
@@ -227,14 +238,14 @@ template <class C> struct DataClassOps {
                                                                                \
 public:                                                                        \
   typedef Base BaseClass;                                                      \
-  void cloneMembers(::Vemo::DbgData::DebuggerData* target) const override;    \
+  void cloneMembers(::Vemo::DbgData::DebuggerData* target) const override;     \
   ::Vemo::DbgData::DebuggerData& operator=(                                    \
       const ::Vemo::DbgData::DebuggerData& other) override;                    \
   Class& operator=(const Class& other) {                                       \
-    operator=(static_cast<const ::Vemo::DbgData::DebuggerData&>(other));      \
+    operator=(static_cast<const ::Vemo::DbgData::DebuggerData&>(other));       \
     return *this;                                                              \
   }                                                                            \
-  bool operator==(const ::Vemo::DbgData::DebuggerData& other) const override; \
+  bool operator==(const ::Vemo::DbgData::DebuggerData& other) const override;  \
   bool serializeMembers(::Vemo::DbgData::ISerializerHelper* writer)            \
       const override;                                                          \
   bool deserializeMembers(::Vemo::DbgData::IDeserializerHelper* reader)        \
@@ -250,7 +261,7 @@ public:
 // Binds Class's identity to a row of the manager's class table at load time,
 // so that the factory creates Class for that row's class name.
 #define DD_BIND_CLASS_ROW(RowId, Class)                                        \
-  [[maybe_unused]] static const bool s_rowBound_##RowId =                     \
+  [[maybe_unused]] static const bool s_rowBound_##RowId =                      \
       ::Vemo::DbgData::DbgDataManager::bindClassIdentity(                      \
           ::Vemo::DbgData::RowId, Class::staticRtti());
 
@@ -265,7 +276,7 @@ public:
 // that create it with DD_BIND_CLASS_ROW.
 #define DD_DATA_CLASS_IMPL_UNBOUND(Class, SourceName)                          \
   DD_DEFINE_IDENTITY(Class, Class::BaseClass)                                  \
-  void Class::cloneMembers(::Vemo::DbgData::DebuggerData* target) const {     \
+  void Class::cloneMembers(::Vemo::DbgData::DebuggerData* target) const {      \
     ::Vemo::DbgData::DataClassOps<Class>::cloneMembers(*this, target);         \
   }                                                                            \
   ::Vemo::DbgData::DebuggerData& Class::operator=(                             \
@@ -273,7 +284,7 @@ public:
     return ::Vemo::DbgData::DataClassOps<Class>::assign(*this, other,          \
                                                         SourceName, __LINE__); \
   }                                                                            \
-  bool Class::operator==(const ::Vemo::DbgData::DebuggerData& other) const {  \
+  bool Class::operator==(const ::Vemo::DbgData::DebuggerData& other) const {   \
     return ::Vemo::DbgData::DataClassOps<Class>::equals(*this, other);         \
   }                                                                            \
   bool Class::serializeMembers(::Vemo::DbgData::ISerializerHelper* writer)     \
@@ -281,8 +292,8 @@ public:
     return ::Vemo::DbgData::DataClassOps<Class>::serializeMembers(*this,       \
                                                                   writer);     \
   }                                                                            \
-  bool Class::deserializeMembers(::Vemo::DbgData::IDeserializerHelper* reader) \
-  {                                                                            \
+  bool Class::deserializeMembers(                                              \
+      ::Vemo::DbgData::IDeserializerHelper* reader) {                          \
     return ::Vemo::DbgData::DataClassOps<Class>::deserializeMembers(*this,     \
                                                                     reader);   \
   }

@@ -153,130 +153,130 @@ enum DDSectionID : std::int32_t {
 };
 
 enum DDHierarchyID : std::int32_t {
-  DDH_Root = 0, // "Root"
-  DDH_Options = 1, // "Options[]"
-  DDH_Options_Item = 2, // item: OptionItem
-  DDH_Configuration = 3, // "Configuration[]"
-  DDH_Configuration_Item = 4, // item: ConfigItem
-  DDH_Console = 5, // "Console"
-  DDH_CurDbgPrompt = 6, // "CurDbgPrompt"
-  DDH_ConsoleIOHistory = 7, // "ConsoleIOHistory[]"
-  DDH_ConsoleIOHistory_Item = 8, // item: ConsoleIOHistoryItem
-  DDH_CmdHistory = 9, // "CmdHistory[]"
-  DDH_CmdHistory_Item = 10, // item: CmdHistoryItem
-  DDH_CoreInfo = 11, // "CoreInfo"
-  DDH_ProcessInfo = 12, // "ProcessInfo[]"
-  DDH_ProcessInfo_Item = 13, // item: ProcessInfoItem
-  DDH_ThreadInfo = 14, // "ThreadInfo[]"
-  DDH_ThreadInfo_Item = 15, // item: ThreadInfoItem
-  DDH_PlugIn = 16, // "PlugIn[]"
-  DDH_PlugIn_Item = 17, // item: PlugInItem
-  DDH_OtherOSInfo = 18, // "OtherOSInfo[]"
-  DDH_OtherOSInfo_Item = 19, // item: OtherOSInfoItem
-  DDH_RsrvdCoreInfo1 = 20, // "<RsrvdCoreInfo1>"
-  DDH_RsrvdCoreInfo2 = 21, // "<RsrvdCoreInfo2>"
-  DDH_RsrvdCoreInfo3 = 22, // "<RsrvdCoreInfo3>"
-  DDH_RsrvdCoreInfo4 = 23, // "<RsrvdCoreInfo4>"
-  DDH_DebuggerState = 24, // "DebuggerState"
-  DDH_ActiveDebuggee = 25, // "ActiveDebuggee"
-  DDH_CurScope = 26, // "CurScope"
-  DDH_RsrvdState3 = 27, // "<RsrvdState3>"
-  DDH_RsrvdState4 = 28, // "<RsrvdState4>"
-  DDH_RsrvdState5 = 29, // "<RsrvdState5>"
-  DDH_RsrvdState6 = 30, // "<RsrvdState6>"
-  DDH_RsrvdState7 = 31, // "<RsrvdState7>"
-  DDH_RsrvdState8 = 32, // "<RsrvdState8>"
-  DDH_ParallelJob = 33, // "ParallelJob[]"
-  DDH_ParallelJob_Item = 34, // item: ParallelJobItem
-  DDH_Jobs = 35, // "Jobs[]"
-  DDH_Jobs_Item = 36, // item: JobItem
-  DDH_DebugInfo = 37, // "DebugInfo"
-  DDH_Sources = 38, // "Sources[]"
-  DDH_Sources_Item = 39, // item: SourceItem
-  DDH_GlobalSymbols = 40, // "GlobalSymbols[]"
-  DDH_GlobalSymbols_Item = 41, // item: SymbolItem
-  DDH_Modules = 42, // "Modules[]"
-  DDH_Modules_Item = 43, // item: ModuleItem
-  DDH_Types = 44, // "Types[]"
-  DDH_Types_Item = 45, // item: TypeItem
-  DDH_Events = 46, // "Events"
-  DDH_BreakPoints = 47, // "BreakPoints[]"
-  DDH_BreakPoints_Item = 48, // item: BreakPointItem
-  DDH_WatchPoints = 49, // "WatchPoints[]"
-  DDH_WatchPoints_Item = 50, // item: WatchPointItem
-  DDH_Signals = 51, // "Signals[]"
-  DDH_Signals_Item = 52, // item: SignalItem
-  DDH_RsrvdEvent1 = 53, // "<RsrvdEvent1>"
-  DDH_RsrvdEvent2 = 54, // "<RsrvdEvent2>"
-  DDH_RsrvdEvent3 = 55, // "<RsrvdEvent3>"
-  DDH_RsrvdEvent4 = 56, // "<RsrvdEvent4>"
-  DDH_Process = 57, // "Process[]"
-  DDH_Process_Item = 58, // item: ProcessItem
-  DDH_Threads = 59, // "Threads[]"
-  DDH_Threads_Item = 60, // item: ThreadItem
-  DDH_CtxtRegGrps = 61, // "CtxtRegGrps[]"
-  DDH_CtxtRegGrps_Item = 62, // item: RegisterGroup
-  DDH_CtxtRegGrps_SubItem = 63, // item: RegisterItem
-  DDH_Locals = 64, // "Locals[]"
-  DDH_LocalsRoot = 65, // "LocalsRoot"
-  DDH_StackFrames = 66, // "StackFrames[]"
-  DDH_StackFrames_Item = 67, // item: StackFrameItem
-  DDH_TLS = 68, // "TLS[]"
-  DDH_TLS_Item = 69, // item: TLSItem
-  DDH_Memory = 70, // "Memory[]"
-  DDH_Memory_Item = 71, // item: MemoryItem
-  DDH_Paging = 72, // "Paging"
-  DDH_Primary = 73, // "Primary[]"
-  DDH_Primary_Item = 74, // item: 1stPageItem
-  DDH_Secondary = 75, // "Secondary[]"
-  DDH_Secondary_Item = 76, // item: 2ndPageItem
-  DDH_RsrvdPage1 = 77, // "<RsrvdPage1>"
-  DDH_RsrvdPage2 = 78, // "<RsrvdPage2>"
-  DDH_RsrvdPage3 = 79, // "<RsrvdPage3>"
-  DDH_RsrvdPage4 = 80, // "<RsrvdPage4>"
-  DDH_SysRegSets = 81, // "SysRegSets[]"
-  DDH_SysRegSets_Item = 82, // item: DataListWC
-  DDH_SysRegSets_SubItem = 83, // item: RegisterGroup
-  DDH_SysRegSets_SubSubItem = 84, // item: RegisterItem
-  DDH_Evaluations = 85, // "Evaluations[]"
-  DDH_EvalRoot = 86, // "EvalRoot"
-  DDH_DisAsm = 87, // "DisAsm[]"
-  DDH_DisAsm_Item = 88, // item: DisAsmItem
-  DDH_ModuleSymbols = 89, // "ModuleSymbols[]"
-  DDH_ModuleSymbols_Item = 90, // item: SymbolItem
-  DDH_LocalSymbols = 91, // "LocalSymbols[]"
-  DDH_LocalSymbols_Item = 92, // item: SymbolItem
-  DDH_UserToolbar = 93, // "UserToolbar[]"
-  DDH_UserToolbar_Item = 94, // item: UserToolBarItem
-  DDH_DataSharingEvent = 95, // "DataSharingEvent[]"
-  DDH_DataSharingEvent_Item = 96, // item: DataAccessItem
-  DDH_SIMDRegisters = 97, // "SIMDRegisters[]"
-  DDH_SIMDRegisters_Item = 98, // item: SIMDEvalRootContent
-  DDH_DataSharingFilter = 99, // "DataSharingFilter[]"
-  DDH_DataSharingFilter_Item = 100, // item: DataSharingFilterItem
-  DDH_OpenMPTask = 101, // "OpenMPTask[]"
-  DDH_OpenMPTask_Item = 102, // item: OpenMPTask
-  DDH_OpenMPBarrier = 103, // "OpenMPBarrier[]"
-  DDH_OpenMPBarrier_Item = 104, // item: OpenMPBarrier
-  DDH_OpenMPTaskWait = 105, // "OpenMPTaskWait[]"
-  DDH_OpenMPTaskWait_Item = 106, // item: OpenMPTaskWait
-  DDH_OpenMPLock = 107, // "OpenMPLock[]"
-  DDH_OpenMPLock_Item = 108, // item: OpenMPLock
-  DDH_OpenMPTeam = 109, // "OpenMPTeam[]"
-  DDH_OpenMPTeam_Item = 110, // item: OpenMPTeam
-  DDH_ThreadSet = 111, // "ThreadSet[]"
-  DDH_ThreadSet_Item = 112, // item: ThreadSet
-  DDH_SIMDEvaluations = 113, // "SIMDEvaluations[]"
-  DDH_SIMDEvaluations_Item = 114, // item: SIMDEvalRootContent
-  DDH_ReEntrantCalls = 115, // "ReEntrantCalls[]"
-  DDH_ReEntrantCalls_Item = 116, // item: ReEntrantCallInfo
-  DDH_Loadables = 117, // "Loadables[]"
-  DDH_Loadables_Item = 118, // item: LoadableItem
-  DDH_FrameLocals = 119, // "Locals[]"
-  DDH_FrameCtxtRegGrps = 120, // "CtxtRegGrps[]"
-  DDH_FrameCtxtRegGrps_Item = 121, // item: RegisterGroup
+  DDH_Root = 0,                       // "Root"
+  DDH_Options = 1,                    // "Options[]"
+  DDH_Options_Item = 2,               // item: OptionItem
+  DDH_Configuration = 3,              // "Configuration[]"
+  DDH_Configuration_Item = 4,         // item: ConfigItem
+  DDH_Console = 5,                    // "Console"
+  DDH_CurDbgPrompt = 6,               // "CurDbgPrompt"
+  DDH_ConsoleIOHistory = 7,           // "ConsoleIOHistory[]"
+  DDH_ConsoleIOHistory_Item = 8,      // item: ConsoleIOHistoryItem
+  DDH_CmdHistory = 9,                 // "CmdHistory[]"
+  DDH_CmdHistory_Item = 10,           // item: CmdHistoryItem
+  DDH_CoreInfo = 11,                  // "CoreInfo"
+  DDH_ProcessInfo = 12,               // "ProcessInfo[]"
+  DDH_ProcessInfo_Item = 13,          // item: ProcessInfoItem
+  DDH_ThreadInfo = 14,                // "ThreadInfo[]"
+  DDH_ThreadInfo_Item = 15,           // item: ThreadInfoItem
+  DDH_PlugIn = 16,                    // "PlugIn[]"
+  DDH_PlugIn_Item = 17,               // item: PlugInItem
+  DDH_OtherOSInfo = 18,               // "OtherOSInfo[]"
+  DDH_OtherOSInfo_Item = 19,          // item: OtherOSInfoItem
+  DDH_RsrvdCoreInfo1 = 20,            // "<RsrvdCoreInfo1>"
+  DDH_RsrvdCoreInfo2 = 21,            // "<RsrvdCoreInfo2>"
+  DDH_RsrvdCoreInfo3 = 22,            // "<RsrvdCoreInfo3>"
+  DDH_RsrvdCoreInfo4 = 23,            // "<RsrvdCoreInfo4>"
+  DDH_DebuggerState = 24,             // "DebuggerState"
+  DDH_ActiveDebuggee = 25,            // "ActiveDebuggee"
+  DDH_CurScope = 26,                  // "CurScope"
+  DDH_RsrvdState3 = 27,               // "<RsrvdState3>"
+  DDH_RsrvdState4 = 28,               // "<RsrvdState4>"
+  DDH_RsrvdState5 = 29,               // "<RsrvdState5>"
+  DDH_RsrvdState6 = 30,               // "<RsrvdState6>"
+  DDH_RsrvdState7 = 31,               // "<RsrvdState7>"
+  DDH_RsrvdState8 = 32,               // "<RsrvdState8>"
+  DDH_ParallelJob = 33,               // "ParallelJob[]"
+  DDH_ParallelJob_Item = 34,          // item: ParallelJobItem
+  DDH_Jobs = 35,                      // "Jobs[]"
+  DDH_Jobs_Item = 36,                 // item: JobItem
+  DDH_DebugInfo = 37,                 // "DebugInfo"
+  DDH_Sources = 38,                   // "Sources[]"
+  DDH_Sources_Item = 39,              // item: SourceItem
+  DDH_GlobalSymbols = 40,             // "GlobalSymbols[]"
+  DDH_GlobalSymbols_Item = 41,        // item: SymbolItem
+  DDH_Modules = 42,                   // "Modules[]"
+  DDH_Modules_Item = 43,              // item: ModuleItem
+  DDH_Types = 44,                     // "Types[]"
+  DDH_Types_Item = 45,                // item: TypeItem
+  DDH_Events = 46,                    // "Events"
+  DDH_BreakPoints = 47,               // "BreakPoints[]"
+  DDH_BreakPoints_Item = 48,          // item: BreakPointItem
+  DDH_WatchPoints = 49,               // "WatchPoints[]"
+  DDH_WatchPoints_Item = 50,          // item: WatchPointItem
+  DDH_Signals = 51,                   // "Signals[]"
+  DDH_Signals_Item = 52,              // item: SignalItem
+  DDH_RsrvdEvent1 = 53,               // "<RsrvdEvent1>"
+  DDH_RsrvdEvent2 = 54,               // "<RsrvdEvent2>"
+  DDH_RsrvdEvent3 = 55,               // "<RsrvdEvent3>"
+  DDH_RsrvdEvent4 = 56,               // "<RsrvdEvent4>"
+  DDH_Process = 57,                   // "Process[]"
+  DDH_Process_Item = 58,              // item: ProcessItem
+  DDH_Threads = 59,                   // "Threads[]"
+  DDH_Threads_Item = 60,              // item: ThreadItem
+  DDH_CtxtRegGrps = 61,               // "CtxtRegGrps[]"
+  DDH_CtxtRegGrps_Item = 62,          // item: RegisterGroup
+  DDH_CtxtRegGrps_SubItem = 63,       // item: RegisterItem
+  DDH_Locals = 64,                    // "Locals[]"
+  DDH_LocalsRoot = 65,                // "LocalsRoot"
+  DDH_StackFrames = 66,               // "StackFrames[]"
+  DDH_StackFrames_Item = 67,          // item: StackFrameItem
+  DDH_TLS = 68,                       // "TLS[]"
+  DDH_TLS_Item = 69,                  // item: TLSItem
+  DDH_Memory = 70,                    // "Memory[]"
+  DDH_Memory_Item = 71,               // item: MemoryItem
+  DDH_Paging = 72,                    // "Paging"
+  DDH_Primary = 73,                   // "Primary[]"
+  DDH_Primary_Item = 74,              // item: 1stPageItem
+  DDH_Secondary = 75,                 // "Secondary[]"
+  DDH_Secondary_Item = 76,            // item: 2ndPageItem
+  DDH_RsrvdPage1 = 77,                // "<RsrvdPage1>"
+  DDH_RsrvdPage2 = 78,                // "<RsrvdPage2>"
+  DDH_RsrvdPage3 = 79,                // "<RsrvdPage3>"
+  DDH_RsrvdPage4 = 80,                // "<RsrvdPage4>"
+  DDH_SysRegSets = 81,                // "SysRegSets[]"
+  DDH_SysRegSets_Item = 82,           // item: DataListWC
+  DDH_SysRegSets_SubItem = 83,        // item: RegisterGroup
+  DDH_SysRegSets_SubSubItem = 84,     // item: RegisterItem
+  DDH_Evaluations = 85,               // "Evaluations[]"
+  DDH_EvalRoot = 86,                  // "EvalRoot"
+  DDH_DisAsm = 87,                    // "DisAsm[]"
+  DDH_DisAsm_Item = 88,               // item: DisAsmItem
+  DDH_ModuleSymbols = 89,             // "ModuleSymbols[]"
+  DDH_ModuleSymbols_Item = 90,        // item: SymbolItem
+  DDH_LocalSymbols = 91,              // "LocalSymbols[]"
+  DDH_LocalSymbols_Item = 92,         // item: SymbolItem
+  DDH_UserToolbar = 93,               // "UserToolbar[]"
+  DDH_UserToolbar_Item = 94,          // item: UserToolBarItem
+  DDH_DataSharingEvent = 95,          // "DataSharingEvent[]"
+  DDH_DataSharingEvent_Item = 96,     // item: DataAccessItem
+  DDH_SIMDRegisters = 97,             // "SIMDRegisters[]"
+  DDH_SIMDRegisters_Item = 98,        // item: SIMDEvalRootContent
+  DDH_DataSharingFilter = 99,         // "DataSharingFilter[]"
+  DDH_DataSharingFilter_Item = 100,   // item: DataSharingFilterItem
+  DDH_OpenMPTask = 101,               // "OpenMPTask[]"
+  DDH_OpenMPTask_Item = 102,          // item: OpenMPTask
+  DDH_OpenMPBarrier = 103,            // "OpenMPBarrier[]"
+  DDH_OpenMPBarrier_Item = 104,       // item: OpenMPBarrier
+  DDH_OpenMPTaskWait = 105,           // "OpenMPTaskWait[]"
+  DDH_OpenMPTaskWait_Item = 106,      // item: OpenMPTaskWait
+  DDH_OpenMPLock = 107,               // "OpenMPLock[]"
+  DDH_OpenMPLock_Item = 108,          // item: OpenMPLock
+  DDH_OpenMPTeam = 109,               // "OpenMPTeam[]"
+  DDH_OpenMPTeam_Item = 110,          // item: OpenMPTeam
+  DDH_ThreadSet = 111,                // "ThreadSet[]"
+  DDH_ThreadSet_Item = 112,           // item: ThreadSet
+  DDH_SIMDEvaluations = 113,          // "SIMDEvaluations[]"
+  DDH_SIMDEvaluations_Item = 114,     // item: SIMDEvalRootContent
+  DDH_ReEntrantCalls = 115,           // "ReEntrantCalls[]"
+  DDH_ReEntrantCalls_Item = 116,      // item: ReEntrantCallInfo
+  DDH_Loadables = 117,                // "Loadables[]"
+  DDH_Loadables_Item = 118,           // item: LoadableItem
+  DDH_FrameLocals = 119,              // "Locals[]"
+  DDH_FrameCtxtRegGrps = 120,         // "CtxtRegGrps[]"
+  DDH_FrameCtxtRegGrps_Item = 121,    // item: RegisterGroup
   DDH_FrameCtxtRegGrps_SubItem = 122, // item: RegisterItem
-  DDH_Undefined = 123, // "<Undefined>"
+  DDH_Undefined = 123,                // "<Undefined>"
 };
 
 struct DD_NameRow {
@@ -378,15 +378,21 @@ public:
   // Builders: each appends the full key of one kind of place to key (which
   // callers pass empty) and answers true.
   virtual bool createFullKeyContextRegisterGrpList(DbgDataKey& key,
-      const std::string& s1, const std::string& s2, const std::string& s3,
-      const std::string& s4) const;
+                                                   const std::string& s1,
+                                                   const std::string& s2,
+                                                   const std::string& s3,
+                                                   const std::string& s4) const;
   virtual bool createFullKeyContextRegisterGroup(DbgDataKey& key,
-      const std::string& s1, const std::string& s2, const std::string& s3,
-      const std::string& s4, const std::string& s5) const;
-  virtual bool createFullKeyContextRegister(DbgDataKey& key,
-      const std::string& s1, const std::string& s2, const std::string& s3,
-      const std::string& s4, const std::string& s5,
-      const std::string& s6) const;
+                                                 const std::string& s1,
+                                                 const std::string& s2,
+                                                 const std::string& s3,
+                                                 const std::string& s4,
+                                                 const std::string& s5) const;
+  virtual bool
+  createFullKeyContextRegister(DbgDataKey& key, const std::string& s1,
+                               const std::string& s2, const std::string& s3,
+                               const std::string& s4, const std::string& s5,
+                               const std::string& s6) const;
   virtual bool createFullKeyRoot(DbgDataKey& key) const;
   virtual bool createFullKeyDebuggerState(DbgDataKey& key) const;
   virtual bool createFullKeyActiveDebuggee(DbgDataKey& key) const;
@@ -397,135 +403,184 @@ public:
   virtual bool createFullKeyCmdHistoryList(DbgDataKey& key) const;
   virtual bool createFullKeyParallelJobList(DbgDataKey& key) const;
   virtual bool createFullKeyParallelJobItem(DbgDataKey& key,
-      const std::string& s1) const;
+                                            const std::string& s1) const;
   virtual bool createFullKeyJobList(DbgDataKey& key,
-      const std::string& s1) const;
+                                    const std::string& s1) const;
   virtual bool createFullKeyJobItem(DbgDataKey& key, const std::string& s1,
-      const std::string& s2) const;
+                                    const std::string& s2) const;
   virtual bool createFullKeyProcessList(DbgDataKey& key, const std::string& s1,
-      const std::string& s2) const;
+                                        const std::string& s2) const;
   virtual bool createFullKeyProcessItem(DbgDataKey& key, const std::string& s1,
-      const std::string& s2, const std::string& s3) const;
+                                        const std::string& s2,
+                                        const std::string& s3) const;
   virtual bool createFullKeyThreadList(DbgDataKey& key, const std::string& s1,
-      const std::string& s2, const std::string& s3) const;
+                                       const std::string& s2,
+                                       const std::string& s3) const;
   virtual bool createFullKeyThreadItem(DbgDataKey& key, const std::string& s1,
-      const std::string& s2, const std::string& s3,
-      const std::string& s4) const;
+                                       const std::string& s2,
+                                       const std::string& s3,
+                                       const std::string& s4) const;
   virtual bool createFullKeyDebugInfo(DbgDataKey& key, const std::string& s1,
-      const std::string& s2) const;
+                                      const std::string& s2) const;
   virtual bool createFullKeySourceList(DbgDataKey& key, const std::string& s1,
-      const std::string& s2) const;
+                                       const std::string& s2) const;
   virtual bool createFullKeySourceItem(DbgDataKey& key, const std::string& s1,
-      const std::string& s2, const std::string& s3) const;
+                                       const std::string& s2,
+                                       const std::string& s3) const;
   virtual bool createFullKeyEvents(DbgDataKey& key, const std::string& s1,
-      const std::string& s2) const;
+                                   const std::string& s2) const;
   virtual bool createFullKeyBreakPointList(DbgDataKey& key,
-      const std::string& s1, const std::string& s2) const;
+                                           const std::string& s1,
+                                           const std::string& s2) const;
   virtual bool createFullKeyBreakPointItem(DbgDataKey& key,
-      const std::string& s1, const std::string& s2,
-      const std::string& s3) const;
+                                           const std::string& s1,
+                                           const std::string& s2,
+                                           const std::string& s3) const;
   virtual bool createFullKeyPlugInList(DbgDataKey& key) const;
   virtual bool createFullKeyPlugIn(DbgDataKey& key,
-      const std::string& s1) const;
+                                   const std::string& s1) const;
   virtual bool createFullKeyPlugInDataItem(DbgDataKey& key,
-      const std::string& s1, const std::string& s2) const;
+                                           const std::string& s1,
+                                           const std::string& s2) const;
   virtual bool createFullKeyStackFrameList(DbgDataKey& key,
-      const std::string& s1, const std::string& s2, const std::string& s3,
-      const std::string& s4) const;
+                                           const std::string& s1,
+                                           const std::string& s2,
+                                           const std::string& s3,
+                                           const std::string& s4) const;
   virtual bool createFullKeyStackFrameItem(DbgDataKey& key,
-      const std::string& s1, const std::string& s2, const std::string& s3,
-      const std::string& s4, const std::string& s5) const;
+                                           const std::string& s1,
+                                           const std::string& s2,
+                                           const std::string& s3,
+                                           const std::string& s4,
+                                           const std::string& s5) const;
   virtual bool createFullKeyStackFrameLocals(DbgDataKey& key,
-      const std::string& s1, const std::string& s2, const std::string& s3,
-      const std::string& s4, const std::string& s5) const;
-  virtual bool createFullKeyStackFrameRegisterGrpList(DbgDataKey& key,
-      const std::string& s1, const std::string& s2, const std::string& s3,
-      const std::string& s4, const std::string& s5) const;
-  virtual bool createFullKeyStackFrameRegisterGroup(DbgDataKey& key,
-      const std::string& s1, const std::string& s2, const std::string& s3,
-      const std::string& s4, const std::string& s5,
-      const std::string& s6) const;
-  virtual bool createFullKeyStackFrameRegister(DbgDataKey& key,
-      const std::string& s1, const std::string& s2, const std::string& s3,
-      const std::string& s4, const std::string& s5, const std::string& s6,
-      const std::string& s7) const;
-  virtual bool createFullKeyEvalList(DbgDataKey& key, const std::string& s1,
-      const std::string& s2, const std::string& s3) const;
-  virtual bool createFullKeyEvalRoot(DbgDataKey& key, const std::string& s1,
-      const std::string& s2, const std::string& s3,
-      const std::string& s4) const;
-  virtual bool createFullKeyModuleList(DbgDataKey& key, std::string s1,
-      std::string s2) const;
-  virtual bool createFullKeyMemoryItem(DbgDataKey& key, const std::string& s1,
-      const std::string& s2, const std::string& s3,
-      const std::string& s4) const;
-  virtual bool createFullKeyLocalEvalList(DbgDataKey& key,
-      const std::string& s1, const std::string& s2, const std::string& s3,
-      const std::string& s4) const;
-  virtual bool createFullKeyLocalEvalRoot(DbgDataKey& key,
-      const std::string& s1, const std::string& s2, const std::string& s3,
-      const std::string& s4, const std::string& s5) const;
-  virtual bool createFullKeySysRegSet(DbgDataKey& key, const std::string& s1,
-      const std::string& s2, const std::string& s3) const;
-  virtual bool createFullKeySysRegGrpList(DbgDataKey& key,
-      const std::string& s1, const std::string& s2, const std::string& s3,
-      const std::string& s4) const;
-  virtual bool createFullKeySysRegGroup(DbgDataKey& key, const std::string& s1,
-      const std::string& s2, const std::string& s3, const std::string& s4,
+                                             const std::string& s1,
+                                             const std::string& s2,
+                                             const std::string& s3,
+                                             const std::string& s4,
+                                             const std::string& s5) const;
+  virtual bool createFullKeyStackFrameRegisterGrpList(
+      DbgDataKey& key, const std::string& s1, const std::string& s2,
+      const std::string& s3, const std::string& s4,
       const std::string& s5) const;
+  virtual bool createFullKeyStackFrameRegisterGroup(
+      DbgDataKey& key, const std::string& s1, const std::string& s2,
+      const std::string& s3, const std::string& s4, const std::string& s5,
+      const std::string& s6) const;
+  virtual bool createFullKeyStackFrameRegister(
+      DbgDataKey& key, const std::string& s1, const std::string& s2,
+      const std::string& s3, const std::string& s4, const std::string& s5,
+      const std::string& s6, const std::string& s7) const;
+  virtual bool createFullKeyEvalList(DbgDataKey& key, const std::string& s1,
+                                     const std::string& s2,
+                                     const std::string& s3) const;
+  virtual bool createFullKeyEvalRoot(DbgDataKey& key, const std::string& s1,
+                                     const std::string& s2,
+                                     const std::string& s3,
+                                     const std::string& s4) const;
+  virtual bool createFullKeyModuleList(DbgDataKey& key, std::string s1,
+                                       std::string s2) const;
+  virtual bool createFullKeyMemoryItem(DbgDataKey& key, const std::string& s1,
+                                       const std::string& s2,
+                                       const std::string& s3,
+                                       const std::string& s4) const;
+  virtual bool createFullKeyLocalEvalList(DbgDataKey& key,
+                                          const std::string& s1,
+                                          const std::string& s2,
+                                          const std::string& s3,
+                                          const std::string& s4) const;
+  virtual bool createFullKeyLocalEvalRoot(DbgDataKey& key,
+                                          const std::string& s1,
+                                          const std::string& s2,
+                                          const std::string& s3,
+                                          const std::string& s4,
+                                          const std::string& s5) const;
+  virtual bool createFullKeySysRegSet(DbgDataKey& key, const std::string& s1,
+                                      const std::string& s2,
+                                      const std::string& s3) const;
+  virtual bool createFullKeySysRegGrpList(DbgDataKey& key,
+                                          const std::string& s1,
+                                          const std::string& s2,
+                                          const std::string& s3,
+                                          const std::string& s4) const;
+  virtual bool createFullKeySysRegGroup(DbgDataKey& key, const std::string& s1,
+                                        const std::string& s2,
+                                        const std::string& s3,
+                                        const std::string& s4,
+                                        const std::string& s5) const;
   virtual bool createFullKeySysRegister(DbgDataKey& key, const std::string& s1,
-      const std::string& s2, const std::string& s3, const std::string& s4,
-      const std::string& s5, const std::string& s6) const;
+                                        const std::string& s2,
+                                        const std::string& s3,
+                                        const std::string& s4,
+                                        const std::string& s5,
+                                        const std::string& s6) const;
   virtual bool createFullKeyDisAsmList(DbgDataKey& key, const std::string& s1,
-      const std::string& s2, const std::string& s3,
-      const std::string& s4) const;
+                                       const std::string& s2,
+                                       const std::string& s3,
+                                       const std::string& s4) const;
   virtual bool createFullKeyGlobalSymbolList(DbgDataKey& key, std::string s1,
-      std::string s2) const;
+                                             std::string s2) const;
   virtual bool createFullKeyModuleSymbolList(DbgDataKey& key, std::string s1,
-      std::string s2) const;
+                                             std::string s2) const;
   virtual bool createFullKeyLocalSymbolList(DbgDataKey& key, std::string s1,
-      std::string s2) const;
+                                            std::string s2) const;
   virtual bool createFullKeyUserToolBarList(DbgDataKey& key) const;
   virtual bool createFullKeySignalList(DbgDataKey& key, const std::string& s1,
-      const std::string& s2) const;
+                                       const std::string& s2) const;
   virtual bool createFullKeyDataSharingEventList(DbgDataKey& key,
-      const std::string& s1, const std::string& s2,
-      const std::string& s3) const;
+                                                 const std::string& s1,
+                                                 const std::string& s2,
+                                                 const std::string& s3) const;
   virtual bool createFullKeyDataSharingFilterList(DbgDataKey& key,
-      const std::string& s1, const std::string& s2,
-      const std::string& s3) const;
+                                                  const std::string& s1,
+                                                  const std::string& s2,
+                                                  const std::string& s3) const;
   virtual bool createFullKeySIMDRegisterList(DbgDataKey& key,
-      const std::string& s1, const std::string& s2, const std::string& s3,
-      const std::string& s4, const std::string& s5) const;
+                                             const std::string& s1,
+                                             const std::string& s2,
+                                             const std::string& s3,
+                                             const std::string& s4,
+                                             const std::string& s5) const;
   virtual bool createFullKeySIMDEvalList(DbgDataKey& key, const std::string& s1,
-      const std::string& s2, const std::string& s3,
-      const std::string& s4) const;
+                                         const std::string& s2,
+                                         const std::string& s3,
+                                         const std::string& s4) const;
   virtual bool createFullKeyOpenMPTaskList(DbgDataKey& key,
-      const std::string& s1, const std::string& s2,
-      const std::string& s3) const;
+                                           const std::string& s1,
+                                           const std::string& s2,
+                                           const std::string& s3) const;
   virtual bool createFullKeyOpenMPBarrierList(DbgDataKey& key,
-      const std::string& s1, const std::string& s2,
-      const std::string& s3) const;
+                                              const std::string& s1,
+                                              const std::string& s2,
+                                              const std::string& s3) const;
   virtual bool createFullKeyOpenMPTaskWaitList(DbgDataKey& key,
-      const std::string& s1, const std::string& s2,
-      const std::string& s3) const;
+                                               const std::string& s1,
+                                               const std::string& s2,
+                                               const std::string& s3) const;
   virtual bool createFullKeyOpenMPLockList(DbgDataKey& key,
-      const std::string& s1, const std::string& s2,
-      const std::string& s3) const;
+                                           const std::string& s1,
+                                           const std::string& s2,
+                                           const std::string& s3) const;
   virtual bool createFullKeyOpenMPTeamList(DbgDataKey& key,
-      const std::string& s1, const std::string& s2,
-      const std::string& s3) const;
+                                           const std::string& s1,
+                                           const std::string& s2,
+                                           const std::string& s3) const;
   virtual bool createFullKeyThreadSetList(DbgDataKey& key,
-      const std::string& s1, const std::string& s2,
-      const std::string& s3) const;
+                                          const std::string& s1,
+                                          const std::string& s2,
+                                          const std::string& s3) const;
   virtual bool createFullKeyReEntrantCallList(DbgDataKey& key,
-      const std::string& s1, const std::string& s2,
-      const std::string& s3) const;
+                                              const std::string& s1,
+                                              const std::string& s2,
+                                              const std::string& s3) const;
   virtual bool createFullKeyLoadableList(DbgDataKey& key, const std::string& s1,
-      const std::string& s2, const std::string& s3) const;
+                                         const std::string& s2,
+                                         const std::string& s3) const;
   virtual bool createFullKeyLoadableListItem(DbgDataKey& key,
-      const std::string& s1, const std::string& s2, const std::string& s3,
-      const std::string& s4) const;
+                                             const std::string& s1,
+                                             const std::string& s2,
+                                             const std::string& s3,
+                                             const std::string& s4) const;
 
 private:
   std::map<std::string, DebuggerDataID> m_classIds;

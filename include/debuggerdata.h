@@ -26,11 +26,11 @@ typedef std::list<const DebuggerData*> DebuggerDataList;
 // getRtti(). DD_DEFINE_IDENTITY (in the class's source file) defines them.
 #define DD_DECLARE_IDENTITY(Class)                                             \
 public:                                                                        \
-  class RTTI_##Class : public ::Vemo::DbgData::RTTITempl<                      \
-                           ::Vemo::DbgData::DebuggerData> {                    \
+  class RTTI_##Class                                                           \
+      : public ::Vemo::DbgData::RTTITempl<::Vemo::DbgData::DebuggerData> {     \
   public:                                                                      \
     RTTI_##Class();                                                            \
-    ::Vemo::DbgData::DebuggerData* createOwnerInstance() const override;      \
+    ::Vemo::DbgData::DebuggerData* createOwnerInstance() const override;       \
   };                                                                           \
   static RTTI_##Class s_RTTI_##Class;                                          \
   static const ::Vemo::DbgData::RTTITempl<::Vemo::DbgData::DebuggerData>*      \

@@ -27,7 +27,9 @@ private:
 class ActiveDebuggee : public DataElement {
   DD_DATA_CLASS(ActiveDebuggee, DataElement)
 
-  const std::string& getActiveParallelJob() const { return m_ActiveParallelJob; }
+  const std::string& getActiveParallelJob() const {
+    return m_ActiveParallelJob;
+  }
   void setActiveParallelJob(const std::string& v) { m_ActiveParallelJob = v; }
   const std::string& getActiveJob() const { return m_ActiveJob; }
   void setActiveJob(const std::string& v) { m_ActiveJob = v; }

@@ -31,7 +31,8 @@ public:
   virtual bool setString(const std::string& key, const std::string& value) = 0;
   virtual bool setAddress(const std::string& key, const Address& value) = 0;
   virtual bool setScope(const std::string& key, const Scope& value) = 0;
-  virtual bool setDbgDataKey(const std::string& key, const DbgDataKey& value) = 0;
+  virtual bool setDbgDataKey(const std::string& key,
+                             const DbgDataKey& value) = 0;
   // Opens a section as a child of the current one and makes it current.
   virtual bool pushSection(const std::string& name) = 0;
   // Returns to the parent section. Callers keep pushes and pops balanced.
@@ -52,7 +53,8 @@ public:
   virtual bool getInt(const std::string& key, long* out) const = 0;
   virtual bool getInt(const std::string& key, unsigned long* out) const = 0;
   virtual bool getInt(const std::string& key, long long* out) const = 0;
-  virtual bool getInt(const std::string& key, unsigned long long* out) const = 0;
+  virtual bool getInt(const std::string& key,
+                      unsigned long long* out) const = 0;
   virtual bool getFloat(const std::string& key, double* out) const = 0;
   virtual bool getString(const std::string& key, std::string* out) const = 0;
   virtual bool getAddress(const std::string& key, Address* out) const = 0;

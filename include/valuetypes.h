@@ -77,8 +77,8 @@ public:
   Scope() = default;
   Scope(const Address& address, const DbgDataKey& key, unsigned long number1,
         unsigned long number2)
-      : m_address(address), m_key(key), m_number1(number1),
-        m_number2(number2) {}
+      : m_address(address), m_key(key), m_number1(number1), m_number2(number2) {
+  }
   Scope(const Scope&) = default;
   virtual ~Scope() = default;
 
@@ -117,8 +117,10 @@ public:
   virtual ~StringVector() = default;
 
   virtual StringVector* clone() const;
-  virtual bool deserialize(const std::string& name, IDeserializerHelper* reader);
-  virtual bool serialize(const std::string& name, ISerializerHelper* writer) const;
+  virtual bool deserialize(const std::string& name,
+                           IDeserializerHelper* reader);
+  virtual bool serialize(const std::string& name,
+                         ISerializerHelper* writer) const;
   virtual StringVector& operator=(const StringVector& other);
   virtual bool operator==(const StringVector& other) const;
   virtual bool operator!=(const StringVector& other) const;

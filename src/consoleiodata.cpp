@@ -39,11 +39,21 @@ std::string ConsoleIOHistoryItem::escapeLineText(const std::string& text) {
     const wint_t c = static_cast<wint_t>(wc);
     if (std::iswgraph(c) || std::iswspace(c) || c == 7 || c == 8) {
       switch (c) {
-      case 7: escaped += "\\a"; break;
-      case 8: escaped += "\\b"; break;
-      case 11: escaped += "\\v"; break;
-      case 12: escaped += "\\f"; break;
-      default: escaped.append(data + pos, length); break;
+      case 7:
+        escaped += "\\a";
+        break;
+      case 8:
+        escaped += "\\b";
+        break;
+      case 11:
+        escaped += "\\v";
+        break;
+      case 12:
+        escaped += "\\f";
+        break;
+      default:
+        escaped.append(data + pos, length);
+        break;
       }
     } else {
       escaped += octalByte(data[pos]);

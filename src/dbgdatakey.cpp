@@ -44,6 +44,69 @@ std::string replaceAll(const std::string& text, const std::string& pattern,
   return result;
 }
 
+// The elements of a key's text, appended to elements: the text is cut at
+// each separator, except where escape plus separator stands for a separator
+// inside an element. The leading separator is optional, and empty elements
+// ("//", a trailing "/") are dropped.
+void splitAtSeparator(const std::string& text, const std::string& separator,
+                      const std::string& escape,
+                      std::vector<std::string>& elements) {
+  std::string current;
+  const std::string escapedSeparator = escape + separator;
+  const std::string::size_type sepLen = separator.size();
+  const std::string::size_type escLen = escapedSeparator.size();
+  std::string::size_type pos = 0;
+  if (sepLen > 0 && text.compare(0, sepLen, separator) == 0)
+    pos = sepLen;
+  while (pos < text.size()) {
+    if (sepLen > 0 && text.compare(pos, sepLen, separator) == 0) {
+      if (!current.empty())
+        elements.push_back(current);
+      current.clear();
+      pos += sepLen;
+    } else if (sepLen > 0 && text.compare(pos, escLen, escapedSeparator) == 0) {
+      current += separator;
+      pos += escLen;
+    } else {
+      current += text[pos];
+      ++pos;
+    }
+  }
+  if (!current.empty())
+    elements.push_back(current);
+}
+
+// The same for a separator and an escape of one character each (a key's
+// "/" and backslash), a run of text at a time. An escape character can only
+// be taken together with the separator that follows it, so a separator is
+// escaped exactly when the character before it is the escape.
+void splitAtSeparatorCharacter(const std::string& text, char separator,
+                               char escape,
+                               std::vector<std::string>& elements) {
+  std::string::size_type pos = !text.empty() && text[0] == separator ? 1 : 0;
+  // The start of an element that holds an escaped separator.
+  std::string pending;
+  for (;;) {
+    const std::string::size_type hit = text.find(separator, pos);
+    const std::string::size_type end =
+        hit == std::string::npos ? text.size() : hit;
+    if (hit != std::string::npos && hit > pos && text[hit - 1] == escape) {
+      pending.append(text, pos, hit - 1 - pos);
+      pending += separator;
+    } else if (pending.empty()) {
+      if (end > pos)
+        elements.emplace_back(text, pos, end - pos);
+    } else {
+      pending.append(text, pos, end - pos);
+      elements.push_back(std::move(pending));
+      pending.clear();
+    }
+    if (hit == std::string::npos)
+      return;
+    pos = hit + 1;
+  }
+}
+
 } // namespace
 
 DbgDataKey::DbgDataKey() : m_separator(kSeparator), m_escape(kEscape) {}
@@ -114,7 +177,8 @@ DbgDataKey& DbgDataKey::operator<<(const std::string& element) {
 }
 
 DbgDataKey& DbgDataKey::operator<<(const char* element) {
-  return append(std::string(element != nullptr ? element : ""));
+  m_elements.emplace_back(element != nullptr ? element : "");
+  return *this;
 }
 
 DbgDataKey DbgDataKey::operator+(const std::string& element) const {
@@ -171,10 +235,19 @@ bool DbgDataKey::operator==(const DbgDataKey& other) const {
 }
 
 std::string DbgDataKey::toString() const {
+  std::string::size_type length = 0;
+  for (const std::string& element : m_elements)
+    length += m_separator.size() + element.size();
   std::string text;
+  text.reserve(length);
   for (const std::string& element : m_elements) {
     text += m_separator;
-    text += escapeSeparators(element);
+    // Most elements hold no separator: they are copied as they are, without
+    // building an escaped copy first.
+    if (element.find(m_separator) == std::string::npos)
+      text += element;
+    else
+      text += escapeSeparators(element);
   }
   return text;
 }
@@ -189,31 +262,10 @@ std::string DbgDataKey::unescapeSeparators(const std::string& element) const {
 
 std::uint32_t DbgDataKey::parseString(const std::string& text) {
   m_elements.clear();
-  std::string current;
-  const std::string escapedSeparator = m_escape + m_separator;
-  const std::string::size_type sepLen = m_separator.size();
-  const std::string::size_type escLen = escapedSeparator.size();
-  std::string::size_type pos = 0;
-  // The leading separator is optional.
-  if (sepLen > 0 && text.compare(0, sepLen, m_separator) == 0)
-    pos = sepLen;
-  while (pos < text.size()) {
-    if (sepLen > 0 && text.compare(pos, sepLen, m_separator) == 0) {
-      // Empty elements ("//", a trailing "/") are dropped.
-      if (!current.empty())
-        m_elements.push_back(current);
-      current.clear();
-      pos += sepLen;
-    } else if (sepLen > 0 && text.compare(pos, escLen, escapedSeparator) == 0) {
-      current += m_separator;
-      pos += escLen;
-    } else {
-      current += text[pos];
-      ++pos;
-    }
-  }
-  if (!current.empty())
-    m_elements.push_back(current);
+  if (m_separator.size() == 1 && m_escape.size() == 1)
+    splitAtSeparatorCharacter(text, m_separator[0], m_escape[0], m_elements);
+  else
+    splitAtSeparator(text, m_separator, m_escape, m_elements);
   return static_cast<std::uint32_t>(m_elements.size());
 }
 

@@ -170,7 +170,7 @@ const char* DbgDataManager::getHierarchyName(DDHierarchyID id) {
 // both append no element rather than an empty or invalid one.
 DbgDataKey& DbgDataKey::operator<<(DDHierarchyID place) {
   if (const char* name = DbgDataManager::getHierarchyName(place))
-    append(name);
+    m_elements.emplace_back(name);
   return *this;
 }
 
@@ -210,31 +210,40 @@ bool DbgDataManager::parseFullKey(const DbgDataKey& key,
   if (key.empty())
     return false;
   std::int32_t state = 0;
-  unsigned long position = 0;
+  bool accepted = true;
+  // Elements consumed so far; also the position of the next element.
+  unsigned long consumed = 0;
   for (const std::string& element : key.elements()) {
     // An end or reject state takes no further element.
-    if (state == StateEnd || state == StateReject)
-      return false;
+    if (state == StateEnd || state == StateReject) {
+      accepted = false;
+      break;
+    }
     DD_ASSERT(state >= 0 && state < StateCount);
     // Named transitions come first; the state's any transition ends it.
     const Transition* transition = st_States[state];
     while (transition->named && !isHierarchyName(transition->id, element))
       ++transition;
     if (!transition->named && transition->id == DDH_Undefined &&
-        transition->next == StateReject)
-      return false;
+        transition->next == StateReject) {
+      accepted = false;
+      break;
+    }
     result.place = transition->id;
-    result.key << element;
     // Positions index the key being parsed, not result.key, which may
     // already have held elements.
     if (!transition->named)
-      result.itemPositions.push_back(position);
+      result.itemPositions.push_back(consumed);
     state = transition->next;
-    ++position;
+    ++consumed;
   }
+  // The consumed elements go to the result's key in one step rather than
+  // one by one (0 as the end of the range would mean "all").
+  if (consumed > 0)
+    result.key.append(key, 0, consumed);
   // A key that ends on a reserved place (a transition to reject) is
   // consumed, but it names no valid place, so it is not accepted.
-  return state != StateReject;
+  return accepted && state != StateReject;
 }
 
 bool DbgDataManager::parseFullKey(const std::string& text,

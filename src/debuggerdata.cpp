@@ -192,9 +192,9 @@ bool DataList::serializeMembers(ISerializerHelper* writer) const {
   if (m_specialItem && result) {
     result = writer->pushSection("values");
     if (result) {
-      result = writer->setString("SpecialItemSubKey",
-                                 m_specialItem->getSubKey()) &&
-               result;
+      result =
+          writer->setString("SpecialItemSubKey", m_specialItem->getSubKey()) &&
+          result;
       writer->popSection();
     }
   }

@@ -3,8 +3,7 @@
 namespace Vemo {
 namespace DbgData {
 
-template <class FieldVisitor>
-void Root::describeFields(FieldVisitor& field) {
+template <class FieldVisitor> void Root::describeFields(FieldVisitor& field) {
   field("DbgName", &Root::m_DbgName);
   field("DbgVersion", &Root::m_DbgVersion);
   field("DbgType", &Root::m_DbgType);

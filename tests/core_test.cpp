@@ -53,8 +53,8 @@ TEST(ClassIdentity, KindTestsFollowParentsDepthFirst) {
   EXPECT_FALSE(list->IsKindOf(listWC, false));
   EXPECT_TRUE(listWC->IsKindOf(DebuggerData::staticRtti(), false));
   EXPECT_FALSE(DebuggerData::staticRtti()->IsKindOf(list, false));
-  EXPECT_TRUE(RegisterItem::staticRtti()->IsKindOf(DataElement::staticRtti(),
-                                                   false));
+  EXPECT_TRUE(
+      RegisterItem::staticRtti()->IsKindOf(DataElement::staticRtti(), false));
   EXPECT_FALSE(RegisterItem::staticRtti()->IsKindOf(list, false));
 
   // A class reaching the target only through its second parent.
@@ -127,7 +127,8 @@ TEST(DataElement, AssignmentSharesEngineData) {
 
 TEST(DataElement, LeafRefusesTreeOperations) {
   auto leaf = make<RegisterGroup>("RegisterGroup", "g");
-  std::unique_ptr<DebuggerData> child(st_ddmanager.factory("RegisterItem", "r"));
+  std::unique_ptr<DebuggerData> child(
+      st_ddmanager.factory("RegisterItem", "r"));
   EXPECT_FALSE(leaf->appendChild(child.get())); // ownership stays here
   EXPECT_EQ(leaf->getList(), nullptr);
   EXPECT_EQ(leaf->getChild("r"), nullptr);
@@ -196,9 +197,8 @@ TEST(DataList, LookupsAndSpecialItem) {
 
   auto outer = listOf({}, "outer");
   outer->appendChild(list.release());
-  EXPECT_EQ(outer->getDescendant("l/b"), nth(*static_cast<const DataList*>(
-                                                  outer->getChild("l")),
-                                              1));
+  EXPECT_EQ(outer->getDescendant("l/b"),
+            nth(*static_cast<const DataList*>(outer->getChild("l")), 1));
   EXPECT_EQ(outer->getDescendant("l"), outer->getChild("l"));
   EXPECT_EQ(outer->getDescendant("l/zz"), nullptr);
   EXPECT_EQ(outer->getDescendant("zz/b"), nullptr);
@@ -253,8 +253,8 @@ TEST(DataList, ComparisonIsOneSided) {
   auto withContent = make<DataListWC>("DataListWC", "s");
   withContent->setClassName("DataList");
   withContent->appendChild(st_ddmanager.factory("RegisterItem", "a"));
-  static_cast<RegisterItem*>(const_cast<DebuggerData*>(
-      nth(*withContent, 0)))->setName("a");
+  static_cast<RegisterItem*>(const_cast<DebuggerData*>(nth(*withContent, 0)))
+      ->setName("a");
   EXPECT_TRUE(*list == *withContent);  // compared as lists
   EXPECT_FALSE(*withContent == *list); // a DataList is no DataListWC
 }
@@ -308,7 +308,8 @@ namespace {
 // A text writer that refuses the object section of chosen sub keys.
 class RefusingWriter : public SerializerHelperString {
 public:
-  explicit RefusingWriter(std::string refused) : m_refused(std::move(refused)) {}
+  explicit RefusingWriter(std::string refused)
+      : m_refused(std::move(refused)) {}
   bool setClassNameAndSubKey(const std::string& className,
                              const std::string& subKey) override {
     SerializerHelperString::setClassNameAndSubKey(className, subKey);

@@ -41,8 +41,8 @@ Scope sampleScope() {
 }
 const char* const kDefaultScope =
     "Scope( Address( 4 32 0 0 0 )Address 00 0 0 )Scope";
-const char* const kSampleScope =
-    "Scope( Address( 1 32 0 401000 0 )Address 2F7372632F6120622E6300 12 3 )Scope";
+const char* const kSampleScope = "Scope( Address( 1 32 0 401000 0 )Address "
+                                 "2F7372632F6120622E6300 12 3 )Scope";
 
 const std::vector<ClassCase>& classCases() {
   static const std::vector<ClassCase> cases = {
@@ -58,13 +58,15 @@ const std::vector<ClassCase>& classCases() {
       {"DebuggerState", {"DummyContent="}, {}},
       {"ActiveDebuggee",
        {"ActiveParallelJob=", "ActiveJob=", "ActiveProcess=", "ActiveThread="},
-       {{on(&ActiveDebuggee::setActiveParallelJob, "pj"), "ActiveParallelJob=pj"},
+       {{on(&ActiveDebuggee::setActiveParallelJob, "pj"),
+         "ActiveParallelJob=pj"},
         {on(&ActiveDebuggee::setActiveJob, "j"), "ActiveJob=j"},
         {on(&ActiveDebuggee::setActiveProcess, "p"), "ActiveProcess=p"},
         {on(&ActiveDebuggee::setActiveThread, "t"), "ActiveThread=t"}}},
       {"CurScope",
        {"ExecState=0", std::string("Location=") + kDefaultScope},
-       {{on(&CurScope::setExecState, static_cast<_ExecState>(3)), "ExecState=3"},
+       {{on(&CurScope::setExecState, static_cast<_ExecState>(3)),
+         "ExecState=3"},
         {on(&CurScope::setLocation, sampleScope()),
          std::string("Location=") + kSampleScope},
         {on(&CurScope::setSrcColumn, 9ul),
@@ -113,9 +115,10 @@ std::unique_ptr<DebuggerData> create(const char* className) {
   return std::unique_ptr<DebuggerData>(st_ddmanager.factory(className, "k"));
 }
 
-std::string leafDump(const char* className, const std::vector<std::string>& lines) {
-  std::string text = std::string("DataElement {\n  ClassName=") + className +
-                     "\n  SubKey=k\n";
+std::string leafDump(const char* className,
+                     const std::vector<std::string>& lines) {
+  std::string text =
+      std::string("DataElement {\n  ClassName=") + className + "\n  SubKey=k\n";
   for (const std::string& line : lines)
     text += "  " + line + "\n";
   return text + "}\n";
@@ -163,8 +166,8 @@ TEST(DataClassesDeathTest, AssigningAcrossClassesAborts) {
   for (const ClassCase& c : classCases()) {
     SCOPED_TRACE(c.className);
     auto object = create(c.className);
-    auto stranger = create(std::string(c.className) == "Root" ? "RegisterGroup"
-                                                              : "Root");
+    auto stranger =
+        create(std::string(c.className) == "Root" ? "RegisterGroup" : "Root");
     EXPECT_FALSE(*object == *stranger);
     EXPECT_DEATH(*object = *stranger, "");
   }
@@ -198,10 +201,13 @@ TEST(StackFrameItem, OwnCloneCopiesEverythingAndEngineData) {
 
 TEST(RegisterItem, BitSizesByTypeCode) {
   const std::pair<int, unsigned> sizes[] = {
-      {0, 8},   {1, 16},  {2, 32},   {3, 64},  {4, 48},  {5, 64},
-      {11, 64}, {12, 80}, {13, 32},  {14, 16}, {15, 8},  {16, 32},
-      {17, 36}, {18, 64}, {19, 128}, {22, 64}, {23, 128}, {24, 32},
-      {1000, 32}, {-1, 32}, {-2147483647 - 1, 32}};
+      {0, 8},     {1, 16},   {2, 32},
+      {3, 64},    {4, 48},   {5, 64},
+      {11, 64},   {12, 80},  {13, 32},
+      {14, 16},   {15, 8},   {16, 32},
+      {17, 36},   {18, 64},  {19, 128},
+      {22, 64},   {23, 128}, {24, 32},
+      {1000, 32}, {-1, 32},  {-2147483647 - 1, 32}};
   RegisterItem item;
   for (const auto& size : sizes) {
     item.setType(size.first);
@@ -214,17 +220,18 @@ TEST(ConsoleIOHistoryItem, LineTextIsEscapedOneWay) {
       {"a\ab", "a\\ab"},
       {"\b\v\f", "\\b\\v\\f"},
       {"tab\tnl\ncr\r", "tab\tnl\ncr\r"},
-      {"\x01", "10"},              // octal digits over the seed text "\0"
+      {"\x01", "10"}, // octal digits over the seed text "\0"
       {"\x1b[", "33["},
       {std::string("x\0y", 3), "x00y"},
-      {"\xc3", "37777777703"},     // not convertible in the "C" locale
+      {"\xc3", "37777777703"}, // not convertible in the "C" locale
       {"", ""},
   };
   for (const auto& c : cases)
     EXPECT_EQ(ConsoleIOHistoryItem::escapeLineText(c.first), c.second)
         << "input of size " << c.first.size();
 
-  auto item = TestSupport::make<ConsoleIOHistoryItem>("ConsoleIOHistoryItem", "1");
+  auto item =
+      TestSupport::make<ConsoleIOHistoryItem>("ConsoleIOHistoryItem", "1");
   item->setLineText("a\vb");
   EXPECT_NE(dumpText(*item).find("  LineText=a\\vb\n"), std::string::npos);
   EXPECT_EQ(item->getLineText(), "a\vb"); // the member itself is untouched

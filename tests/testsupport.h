@@ -16,7 +16,8 @@ std::string dumpText(const DebuggerData& object);
 
 // A factory-made object of the given class, owned by the caller.
 template <class T>
-std::unique_ptr<T> make(const std::string& className, const std::string& subKey);
+std::unique_ptr<T> make(const std::string& className,
+                        const std::string& subKey);
 
 } // namespace TestSupport
 } // namespace DbgData
@@ -25,8 +26,9 @@ std::unique_ptr<T> make(const std::string& className, const std::string& subKey)
 #include "ddmanager.h"
 
 template <class T>
-std::unique_ptr<T> Vemo::DbgData::TestSupport::make(const std::string& className,
-                                             const std::string& subKey) {
+std::unique_ptr<T>
+Vemo::DbgData::TestSupport::make(const std::string& className,
+                                 const std::string& subKey) {
   DebuggerData* object = st_ddmanager.factory(className, subKey);
   if (object && !object->isKindOf(T::staticRtti())) {
     delete object;
