@@ -19,21 +19,21 @@ namespace Bench {
 
 namespace {
 
-// CPU time per iteration of one case, in nanoseconds, and its counters.
+// CPU time per iteration of one case, in nanoseconds, and its counters:
+// the fastest repetition (the "min" statistic when the repetitions were
+// reported as aggregates only).
 struct Result {
-  std::vector<double> iterations; // one per repetition
-  double median = -1;             // the median aggregate, when reported
+  std::vector<double> iterations; // one per repetition reported
+  double minimum = -1;            // the "min" aggregate, when reported
   std::map<std::string, double> counters;
   bool failed = false;
 
   double nanoseconds() const {
-    if (median >= 0)
-      return median;
+    if (minimum >= 0)
+      return minimum;
     if (iterations.empty())
       return -1;
-    std::vector<double> sorted = iterations;
-    std::sort(sorted.begin(), sorted.end());
-    return sorted[sorted.size() / 2];
+    return *std::min_element(iterations.begin(), iterations.end());
   }
 };
 
@@ -44,8 +44,7 @@ double toNanoseconds(double time, benchmark::TimeUnit unit) {
 // The console output as usual, and every run kept for the summary.
 class SummaryReporter : public benchmark::ConsoleReporter {
 public:
-  explicit SummaryReporter(OutputOptions options)
-      : ConsoleReporter(options) {}
+  explicit SummaryReporter(OutputOptions options) : ConsoleReporter(options) {}
 
   void ReportRuns(const std::vector<Run>& runs) override {
     for (const Run& run : runs)
@@ -53,8 +52,22 @@ public:
     ConsoleReporter::ReportRuns(runs);
   }
 
-  // Whether the case ran at all (it may have failed).
-  bool ran(const std::string& name) const { return m_results.count(name) > 0; }
+  // Whether the case ran and reported an error.
+  bool failed(const std::string& name) const {
+    const auto found = m_results.find(name);
+    return found != m_results.end() && found->second.failed;
+  }
+
+  // The first usable result whose name starts with prefix.
+  const Result* findPrefix(const std::string& prefix) const {
+    for (auto it = m_results.lower_bound(prefix);
+         it != m_results.end() &&
+         it->first.compare(0, prefix.size(), prefix) == 0;
+         ++it)
+      if (const Result* result = find(it->first))
+        return result;
+    return nullptr;
+  }
 
   const Result* find(const std::string& name) const {
     const auto found = m_results.find(name);
@@ -73,8 +86,8 @@ private:
     }
     const double ns = toNanoseconds(run.GetAdjustedCPUTime(), run.time_unit);
     if (run.run_type == Run::RT_Aggregate) {
-      if (run.aggregate_name == "median")
-        result.median = ns;
+      if (run.aggregate_name == "min")
+        result.minimum = ns;
       else
         return;
     } else {
@@ -109,72 +122,67 @@ std::string timeText(double ns) {
   return text;
 }
 
-std::string sizeName(long n) {
-  return std::to_string(n);
+std::string sizeName(long n) { return std::to_string(n); }
+
+// One row per tree size: library case against baseline case at that size.
+void addPerSize(std::vector<Row>& rows, const std::string& label,
+                const std::string& library, const std::string& baseline,
+                double target) {
+  for (long n : {kSmallN, kMediumN, kLargeN}) {
+    const std::string arg = "/" + sizeName(n);
+    rows.push_back(
+        {label + " N=" + sizeName(n), library + arg, baseline + arg, target});
+  }
+}
+
+// Per-register time at the largest size against the smallest.
+void addScaling(std::vector<Row>& rows, const std::string& label,
+                const std::string& name, double target) {
+  rows.push_back({label, name + "/" + sizeName(kLargeN),
+                  name + "/" + sizeName(kSmallN), target, double(kLargeN),
+                  double(kSmallN)});
 }
 
 std::vector<Row> ratioRows() {
   std::vector<Row> rows;
-  for (long n : {kSmallN, kMediumN, kLargeN}) {
-    const std::string arg = "/" + sizeName(n);
-    rows.push_back({"DOM write N=" + sizeName(n), "DomWrite_Library" + arg,
-                    "DomWrite_Direct" + arg, 1.15});
-  }
-  rows.push_back({"DOM write N=10000 vs transcode",
-                  "DomWrite_Library/10000", "DomWrite_Transcode/10000", 1.15});
-  for (long n : {kSmallN, kMediumN, kLargeN}) {
-    const std::string arg = "/" + sizeName(n);
-    rows.push_back({"DOM read N=" + sizeName(n), "DomRead_Library" + arg,
-                    "DomRead_Direct" + arg, 1.25});
-  }
+  addPerSize(rows, "DOM write", "DomWrite_Library", "DomWrite_Direct", 1.15);
+  rows.push_back({"DOM write N=10000 vs transcode", "DomWrite_Library/10000",
+                  "DomWrite_Transcode/10000", 1.15});
+  addPerSize(rows, "DOM read", "DomRead_Library", "DomRead_Direct", 1.25);
   rows.push_back({"DOM read N=10000 vs transcode", "DomRead_Library/10000",
                   "DomRead_Transcode/10000", 1.25});
-  for (long n : {kSmallN, kMediumN, kLargeN}) {
-    const std::string arg = "/" + sizeName(n);
-    rows.push_back({"Text dump N=" + sizeName(n), "TextDump_Library" + arg,
-                    "TextDump_Direct" + arg, 1.3});
-  }
-  rows.push_back({"Hex encode 1 MiB", "HexEncode_Library", "HexEncode_Table",
-                  1.1});
-  rows.push_back({"Hex encode vs memcpy", "HexEncode_Library",
-                  "HexEncode_Memcpy", 0});
-  rows.push_back({"Hex decode 1 MiB", "HexDecode_Library", "HexDecode_Table",
-                  1.1});
-  rows.push_back({"Hex decode vs memcpy", "HexDecode_Library",
-                  "HexDecode_Memcpy", 0});
+  addPerSize(rows, "Text dump", "TextDump_Library", "TextDump_Direct", 1.3);
+  rows.push_back(
+      {"Hex encode 1 MiB", "HexEncode_Library", "HexEncode_Table", 1.1});
+  rows.push_back(
+      {"Hex encode vs memcpy", "HexEncode_Library", "HexEncode_Memcpy", 0});
+  rows.push_back(
+      {"Hex decode 1 MiB", "HexDecode_Library", "HexDecode_Table", 1.1});
+  rows.push_back(
+      {"Hex decode vs memcpy", "HexDecode_Library", "HexDecode_Memcpy", 0});
   rows.push_back({"Key parse", "KeyParse_Library", "KeyParse_Split", 1.5});
-  rows.push_back({"Key toString", "KeyToString_Library", "KeyToString_Join",
-                  1.5});
-  rows.push_back({"Key builder (7 sub keys)", "KeyBuild_Library",
-                  "KeyBuild_Vector", 1.5});
-  rows.push_back({"parseFullKey", "ParseFullKey_Library", "KeyParse_Split",
-                  3.0});
-  const std::string large = "/" + sizeName(kLargeN);
-  const std::string small = "/" + sizeName(kSmallN);
-  rows.push_back({"Scaling DOM write 1e5/1e3", "DomWrite_Library" + large,
-                  "DomWrite_Library" + small, 1.3, double(kLargeN),
-                  double(kSmallN)});
-  rows.push_back({"Scaling DOM read 1e5/1e3", "DomRead_Library" + large,
-                  "DomRead_Library" + small, 1.3, double(kLargeN),
-                  double(kSmallN)});
+  rows.push_back(
+      {"Key toString", "KeyToString_Library", "KeyToString_Join", 1.5});
+  rows.push_back(
+      {"Key builder (7 sub keys)", "KeyBuild_Library", "KeyBuild_Vector", 1.5});
+  rows.push_back(
+      {"parseFullKey", "ParseFullKey_Library", "KeyParse_Split", 3.0});
+  addScaling(rows, "Scaling DOM write 1e5/1e3", "DomWrite_Library", 1.3);
+  addScaling(rows, "Scaling DOM read 1e5/1e3", "DomRead_Library", 1.3);
   // The same for the baselines: how much of the growth the DOM itself brings.
-  rows.push_back({"  direct DOM write 1e5/1e3", "DomWrite_Direct" + large,
-                  "DomWrite_Direct" + small, 0, double(kLargeN),
-                  double(kSmallN)});
-  rows.push_back({"  direct DOM read 1e5/1e3", "DomRead_Direct" + large,
-                  "DomRead_Direct" + small, 0, double(kLargeN),
-                  double(kSmallN)});
+  addScaling(rows, "  direct DOM write 1e5/1e3", "DomWrite_Direct", 0);
+  addScaling(rows, "  direct DOM read 1e5/1e3", "DomRead_Direct", 0);
   return rows;
 }
 
 void printRatios(const SummaryReporter& results) {
-  std::printf("\n%-32s %12s %12s %7s %7s  %s\n", "Case", "Library",
-              "Baseline", "Ratio", "Target", "Result");
+  std::printf("\n%-32s %12s %12s %7s %7s  %s\n", "Case", "Library", "Baseline",
+              "Ratio", "Target", "Result");
   for (const Row& row : ratioRows()) {
     const Result* library = results.find(row.library);
     const Result* baseline = results.find(row.baseline);
     if (!library || !baseline) {
-      if (results.ran(row.library) || results.ran(row.baseline))
+      if (results.failed(row.library) || results.failed(row.baseline))
         std::printf("%-32s %12s %12s %7s %7s  %s\n", row.label.c_str(), "-",
                     "-", "-", "-", "FAILED");
       continue;
@@ -196,8 +204,8 @@ void printRatios(const SummaryReporter& results) {
 
 // Per-object figures: CPU time divided by the case's "objects" counter.
 void printPerObject(const SummaryReporter& results) {
-  std::printf("\n%-32s %12s %12s\n", "Per object (all data objects)",
-              "Time", "ns/object");
+  std::printf("\n%-32s %12s %12s\n", "Per object (all data objects)", "Time",
+              "ns/object");
   for (const char* name : {"Clone", "Compare", "DomWrite_Library",
                            "DomRead_Library", "TextDump_Library"}) {
     for (long n : {kSmallN, kMediumN, kLargeN}) {
@@ -213,8 +221,8 @@ void printPerObject(const SummaryReporter& results) {
 }
 
 void printMemory(const SummaryReporter& results) {
-  const std::string name = "Memory/" + sizeName(kLargeN);
-  const auto found = results.find(name);
+  // The case runs once, so its name carries "/iterations:1/repeats:1".
+  const Result* found = results.findPrefix("Memory/" + sizeName(kLargeN) + "/");
   if (!found)
     return;
   std::printf("\nHeap in use per register, N=%ld (mallinfo2 deltas; one "
@@ -232,12 +240,13 @@ void printMemory(const SummaryReporter& results) {
 } // namespace Bench
 
 int main(int argc, char** argv) {
-  // A fixed allocator policy: glibc otherwise moves its mmap threshold as
-  // large blocks come and go, so whether a case's big buffers are fresh
-  // (page-faulting) mappings or reused heap would depend on the cases run
-  // before it. Both sides of every comparison run under the same policy.
-  mallopt(M_MMAP_THRESHOLD, 32 * 1024 * 1024);
-  mallopt(M_TRIM_THRESHOLD, 256 * 1024 * 1024);
+  // Every block from the heap, and freed memory kept there: otherwise large
+  // buffers (DOM pages, a text dump of 100 MB) are fresh mappings whose
+  // page faults, and whether the kernel backs them with huge pages, swing
+  // the timings of a case by a factor of two from one run to the next.
+  // Both sides of every comparison run under the same policy.
+  mallopt(M_MMAP_MAX, 0);
+  mallopt(M_TRIM_THRESHOLD, -1);
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv))
     return 1;
@@ -245,9 +254,8 @@ int main(int argc, char** argv) {
   // Colours only on a terminal (the --benchmark_color flag applies to the
   // library's own reporter, which this one replaces).
   Bench::SummaryReporter reporter(
-      isatty(STDOUT_FILENO)
-          ? benchmark::ConsoleReporter::OO_ColorTabular
-          : benchmark::ConsoleReporter::OO_Tabular);
+      isatty(STDOUT_FILENO) ? benchmark::ConsoleReporter::OO_ColorTabular
+                            : benchmark::ConsoleReporter::OO_Tabular);
   benchmark::RunSpecifiedBenchmarks(&reporter);
   Bench::printRatios(reporter);
   Bench::printPerObject(reporter);

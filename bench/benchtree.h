@@ -59,8 +59,13 @@ const RegisterItem& registerOf(const DebuggerData* child);
 // and answers false when ok is false.
 bool checkOnce(benchmark::State& state, bool ok, const std::string& what);
 
-// The registered sizes of a scaling case: kSmallN, kMediumN, kLargeN, each
-// with few enough repetitions that the largest stays quick.
+// Adds the statistic "min" to a case's repetitions: the summary compares
+// the fastest repetition of each side, since on a shared machine outside
+// work only ever adds time.
+void withMinimum(benchmark::internal::Benchmark* b);
+
+// The registered sizes of a scaling case (kSmallN, kMediumN, kLargeN), in
+// microseconds, with the statistic of withMinimum.
 void scalingSizes(benchmark::internal::Benchmark* b);
 
 } // namespace Bench

@@ -71,7 +71,8 @@ struct NibbleTable {
     for (int c = '0'; c <= '9'; ++c)
       values[c] = static_cast<unsigned char>(c - '0');
     for (int c = 'A'; c <= 'F'; ++c)
-      values[c] = values[c + ('a' - 'A')] = static_cast<unsigned char>(c - 'A' + 10);
+      values[c] = values[c + ('a' - 'A')] =
+          static_cast<unsigned char>(c - 'A' + 10);
   }
 };
 
@@ -176,11 +177,11 @@ void HexDecode_Memcpy(benchmark::State& state) {
 
 } // namespace
 
-BENCHMARK(HexEncode_Library)->Unit(benchmark::kMicrosecond);
-BENCHMARK(HexEncode_Table)->Unit(benchmark::kMicrosecond);
-BENCHMARK(HexEncode_Memcpy)->Unit(benchmark::kMicrosecond);
-BENCHMARK(HexDecode_Library)->Unit(benchmark::kMicrosecond);
-BENCHMARK(HexDecode_Table)->Unit(benchmark::kMicrosecond);
-BENCHMARK(HexDecode_Memcpy)->Unit(benchmark::kMicrosecond);
+BENCHMARK(HexEncode_Library)->Unit(benchmark::kMicrosecond)->Apply(withMinimum);
+BENCHMARK(HexEncode_Table)->Unit(benchmark::kMicrosecond)->Apply(withMinimum);
+BENCHMARK(HexEncode_Memcpy)->Unit(benchmark::kMicrosecond)->Apply(withMinimum);
+BENCHMARK(HexDecode_Library)->Unit(benchmark::kMicrosecond)->Apply(withMinimum);
+BENCHMARK(HexDecode_Table)->Unit(benchmark::kMicrosecond)->Apply(withMinimum);
+BENCHMARK(HexDecode_Memcpy)->Unit(benchmark::kMicrosecond)->Apply(withMinimum);
 
 } // namespace Bench

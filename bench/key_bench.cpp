@@ -106,8 +106,7 @@ void KeyToString_Join(benchmark::State& state) {
   const std::vector<std::string>& parts = expectedParts();
   std::string joined;
   join(parts, joined);
-  if (!checkOnce(state, joined == DbgDataKey(kKeyText).toString(),
-                 "key text"))
+  if (!checkOnce(state, joined == DbgDataKey(kKeyText).toString(), "key text"))
     return;
   for (auto _ : state) {
     std::string text;
@@ -165,12 +164,12 @@ void ParseFullKey_Library(benchmark::State& state) {
 
 } // namespace
 
-BENCHMARK(KeyParse_Library);
-BENCHMARK(KeyParse_Split);
-BENCHMARK(KeyToString_Library);
-BENCHMARK(KeyToString_Join);
-BENCHMARK(KeyBuild_Library);
-BENCHMARK(KeyBuild_Vector);
-BENCHMARK(ParseFullKey_Library);
+BENCHMARK(KeyParse_Library)->Apply(withMinimum);
+BENCHMARK(KeyParse_Split)->Apply(withMinimum);
+BENCHMARK(KeyToString_Library)->Apply(withMinimum);
+BENCHMARK(KeyToString_Join)->Apply(withMinimum);
+BENCHMARK(KeyBuild_Library)->Apply(withMinimum);
+BENCHMARK(KeyBuild_Vector)->Apply(withMinimum);
+BENCHMARK(ParseFullKey_Library)->Apply(withMinimum);
 
 } // namespace Bench

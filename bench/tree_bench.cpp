@@ -239,7 +239,7 @@ BENCHMARK(TextDump_Library)->Apply(scalingSizes);
 BENCHMARK(TextDump_Direct)->Apply(scalingSizes);
 BENCHMARK(Clone)->Apply(scalingSizes);
 BENCHMARK(Compare)->Apply(scalingSizes);
-BENCHMARK(Memory)->Arg(kLargeN)->Iterations(1)->Repetitions(1)
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(Memory)->Arg(kLargeN)->Iterations(1)->Repetitions(1)->Unit(
+    benchmark::kMillisecond);
 
 } // namespace Bench
