@@ -43,10 +43,8 @@ TEST(FullKeyTest, ParseTable) {
       {"/Root/ParallelJob[]/0/Jobs[]/1/Events/BreakPoints[]/7", true,
        DDH_BreakPoints_Item, {2, 4, 7}, 8},
       {"/Root/Console/CurDbgPrompt", true, DDH_CurDbgPrompt, {}, 3},
-      {"Root", true, DDH_Root, {}, 1},
       // Unknown names are items at place 0 and start the automaton over.
       {"Nowhere", true, DDH_Root, {0}, 1},
-      {"/Root/Nowhere", true, DDH_Root, {1}, 2},
       {"/Root/Nowhere/Root/Console", true, DDH_Console, {1}, 4},
       {"/Root/Console/x/Root/Options[]/o", true, DDH_Options_Item, {2, 5},
        6},
@@ -70,16 +68,12 @@ TEST(FullKeyTest, ParseTable) {
       // Reserved places are consumed but rejected.
       {"/Root/DebuggerState/<RsrvdState3>", false, DDH_RsrvdState3, {}, 3},
       {JOB "/Events/<RsrvdEvent4>", false, DDH_RsrvdEvent4, {2, 4}, 7},
-      {PROCESS "/Paging/<RsrvdPage1>", false, DDH_RsrvdPage1, {2, 4, 6}, 9},
-      {"/Root/DebuggerState/<RsrvdState8>/x", false, DDH_RsrvdState8, {}, 3},
       // Nothing may follow a place that ends the key.
       {"/Root/Console/CurDbgPrompt/x", false, DDH_CurDbgPrompt, {}, 3},
       {FRAME "/Locals[]/x", false, DDH_FrameLocals, {2, 4, 6, 8, 10}, 12},
-      {"/Root/Options[]/o/x", false, DDH_Options_Item, {2}, 3},
       // A reserved name where no state expects it is just an unknown name.
       {"/Root/<RsrvdState3>", true, DDH_Root, {1}, 2},
       {"", false, DDH_Root, {}, 0},
-      {"///", false, DDH_Root, {}, 0},
   };
   // clang-format on
   for (const Case& c : cases) {
@@ -92,25 +86,21 @@ TEST(FullKeyTest, ParseTable) {
     // The consumed elements are the key's first ones.
     EXPECT_EQ(result.key, firstElements(DbgDataKey(c.text), c.consumed));
   }
-}
 
-TEST(FullKeyTest, ParseAppendsToTheResult) {
+  // Parsing appends to the record it is given.
   Manager::DataHierarchy result;
-  result.key << "Earlier"
-             << "Elements";
+  result.key << "Earlier";
   result.itemPositions.push_back(99);
-  const DbgDataKey key("/Root/Console/ConsoleIOHistory[]/h");
-  ASSERT_TRUE(st_ddmanager.parseFullKey(key, result));
+  ASSERT_TRUE(st_ddmanager.parseFullKey(
+      DbgDataKey("/Root/Console/ConsoleIOHistory[]/h"), result));
   EXPECT_EQ(result.key.toString(),
-            "/Earlier/Elements/Root/Console/ConsoleIOHistory[]/h");
+            "/Earlier/Root/Console/ConsoleIOHistory[]/h");
   // Positions index the parsed key, not the result's.
   EXPECT_EQ(result.itemPositions, (Positions{99, 3}));
   EXPECT_EQ(result.place, DDH_ConsoleIOHistory_Item);
-
   // A refused empty key leaves the record alone.
   EXPECT_FALSE(st_ddmanager.parseFullKey(DbgDataKey(), result));
-  EXPECT_EQ(result.key.size(), 6u);
-  EXPECT_EQ(result.place, DDH_ConsoleIOHistory_Item);
+  EXPECT_EQ(result.key.size(), 5u);
 }
 
 TEST(FullKeyTest, EveryStateEndsInAnAnyTransitionAndLeadsSomewhere) {
@@ -121,8 +111,15 @@ TEST(FullKeyTest, EveryStateEndsInAnAnyTransitionAndLeadsSomewhere) {
       const std::int32_t next = transition->next;
       EXPECT_TRUE(next == Manager::StateEnd || next == Manager::StateReject ||
                   (next >= 0 && next < Manager::StateCount));
-      if (!transition->named)
+      if (!transition->named) {
+        // Past the restart, an any transition takes an item row, but for
+        // four states that deliberately name the list or place itself.
+        if (next != 0) {
+          EXPECT_EQ(Manager::getHierarchyName(transition->id) != nullptr,
+                    state == 31 || state == 38 || state == 55 || state == 57);
+        }
         break;
+      }
       EXPECT_NE(Manager::getHierarchyName(transition->id), nullptr);
       // Exactly the reserved places reject.
       const std::string name = Manager::getHierarchyName(transition->id);
@@ -163,35 +160,7 @@ TEST(FullKeyTest, RandomKeysStayWithinTheKey) {
   EXPECT_GT(accepted, 0);
 }
 
-TEST(FullKeyTest, KeyTests) {
-  EXPECT_TRUE(st_ddmanager.isPlugInKey(std::string("/Root/CoreInfo/PlugIn[]")));
-  EXPECT_TRUE(st_ddmanager.isPlugInKey(DbgDataKey("x/PlugIn[]/y")));
-  EXPECT_FALSE(st_ddmanager.isPlugInKey(std::string("/Root/CoreInfo/PlugIn")));
-  EXPECT_FALSE(st_ddmanager.isPlugInKey(std::string("/Root/PlugIn[]x")));
-  EXPECT_FALSE(st_ddmanager.isPlugInKey(std::string("")));
-
-  EXPECT_TRUE(st_ddmanager.isEvalListKey(DbgDataKey(PROCESS "/Evaluations[]")));
-  EXPECT_TRUE(st_ddmanager.isEvalListKey(DbgDataKey("Evaluations[]/e")));
-  EXPECT_FALSE(st_ddmanager.isEvalListKey(DbgDataKey(PROCESS "/EvalRoot")));
-
-  // Both places named "Locals[]" count as local evaluations.
-  EXPECT_TRUE(st_ddmanager.isLocalEvalListKey(DbgDataKey(THREAD "/Locals[]")));
-  EXPECT_TRUE(st_ddmanager.isLocalEvalListKey(DbgDataKey(FRAME "/Locals[]")));
-  EXPECT_FALSE(st_ddmanager.isLocalEvalListKey(DbgDataKey(THREAD "/Locals")));
-  EXPECT_FALSE(st_ddmanager.isLocalEvalListKey(DbgDataKey()));
-}
-
-TEST(FullKeyTest, TextPlugInBuildersReplaceTheText) {
-  std::string text = "/Old/Text";
-  EXPECT_TRUE(st_ddmanager.createFullKeyPlugInList(text));
-  EXPECT_EQ(text, "/Root/CoreInfo/PlugIn[]");
-  EXPECT_TRUE(st_ddmanager.createFullKeyPlugIn(text, "p"));
-  EXPECT_EQ(text, "/Root/CoreInfo/PlugIn[]/p");
-  EXPECT_TRUE(st_ddmanager.createFullKeyPlugInDataItem(text, "p", "a/b"));
-  EXPECT_EQ(text, "/Root/CoreInfo/PlugIn[]/p/a\\/b");
-}
-
-// The text forms and the text key test go through the virtual key forms.
+// The key tests, and the text forms that go through the virtual key forms.
 class TaggingManager : public DbgDataManager {
 public:
   using DbgDataManager::createFullKeyPlugIn;
@@ -206,14 +175,45 @@ public:
   }
 };
 
-TEST(FullKeyTest, TextFormsCallTheVirtualKeyForms) {
+TEST(FullKeyTest, KeyTestsAndTextForms) {
+  const std::pair<const char*, bool> plugIn[] = {
+      {"/Root/CoreInfo/PlugIn[]", true},
+      {"x/PlugIn[]/y", true},
+      {"/Root/CoreInfo/PlugIn", false},
+      {"/Root/PlugIn[]x", false},
+      {"", false}};
+  for (const auto& c : plugIn)
+    EXPECT_EQ(st_ddmanager.isPlugInKey(std::string(c.first)), c.second)
+        << c.first;
+  EXPECT_TRUE(st_ddmanager.isEvalListKey(DbgDataKey(PROCESS "/Evaluations[]")));
+  EXPECT_TRUE(st_ddmanager.isEvalListKey(DbgDataKey("Evaluations[]/e")));
+  EXPECT_FALSE(st_ddmanager.isEvalListKey(DbgDataKey(PROCESS "/EvalRoot")));
+  // Both places named "Locals[]" count as local evaluations.
+  EXPECT_TRUE(st_ddmanager.isLocalEvalListKey(DbgDataKey(THREAD "/Locals[]")));
+  EXPECT_TRUE(st_ddmanager.isLocalEvalListKey(DbgDataKey(FRAME "/Locals[]")));
+  EXPECT_FALSE(st_ddmanager.isLocalEvalListKey(DbgDataKey(THREAD "/Locals")));
+
+  // The text builders replace the text.
+  std::string text = "/Old/Text";
+  EXPECT_TRUE(st_ddmanager.createFullKeyPlugInList(text));
+  EXPECT_EQ(text, "/Root/CoreInfo/PlugIn[]");
+  EXPECT_TRUE(st_ddmanager.createFullKeyPlugInDataItem(text, "p", "a/b"));
+  EXPECT_EQ(text, "/Root/CoreInfo/PlugIn[]/p/a\\/b");
+
   const TaggingManager tagging;
   const DbgDataManager& manager = tagging;
-  std::string text;
   EXPECT_TRUE(manager.createFullKeyPlugIn(text, "p"));
   EXPECT_EQ(text, "/Tagged/p");
   EXPECT_TRUE(manager.isPlugInKey(std::string("/x/Tagged")));
   EXPECT_FALSE(manager.isPlugInKey(std::string("/Root/CoreInfo/PlugIn[]")));
+
+  // Sub keys stay one element each, whatever they hold.
+  DbgDataKey key;
+  ASSERT_TRUE(
+      st_ddmanager.createFullKeyMemoryItem(key, "p/1", "j", "//", "m\\"));
+  ASSERT_EQ(key.size(), 9u);
+  EXPECT_EQ(key.toString(),
+            "/Root/ParallelJob[]/p\\/1/Jobs[]/j/Process[]/\\/\\//Memory[]/m\\");
 }
 
 // A builder called with the sub keys "a", "b", "c", ... in order.
@@ -239,110 +239,80 @@ struct BuilderCase {
   DDHierarchyID place; // where the automaton takes the key
 };
 
-#define CASE(Member, Text, Place)                                              \
-  BuilderCase { #Member, builder(&DbgDataManager::Member), Text, Place }
+#define CASE(Name, Text, Place)                                                \
+  { #Name, builder(&DbgDataManager::createFullKey##Name), Text, DDH_##Place }
 
 const std::vector<BuilderCase>& builderCases() {
   static const std::vector<BuilderCase> cases = {
-      CASE(createFullKeyContextRegisterGrpList, THREAD "/CtxtRegGrps[]",
-           DDH_CtxtRegGrps),
-      CASE(createFullKeyContextRegisterGroup, THREAD "/CtxtRegGrps[]/e",
-           DDH_CtxtRegGrps_Item),
-      CASE(createFullKeyContextRegister, THREAD "/CtxtRegGrps[]/e/f",
-           DDH_CtxtRegGrps_SubItem),
-      CASE(createFullKeyRoot, "/Root", DDH_Root),
-      CASE(createFullKeyDebuggerState, "/Root/DebuggerState",
-           DDH_DebuggerState),
-      CASE(createFullKeyActiveDebuggee, "/Root/DebuggerState/ActiveDebuggee",
-           DDH_ActiveDebuggee),
-      CASE(createFullKeyCurScope, "/Root/DebuggerState/CurScope", DDH_CurScope),
-      CASE(createFullKeyConsole, "/Root/Console", DDH_Console),
-      CASE(createFullKeyCurDbgPrompt, "/Root/Console/CurDbgPrompt",
-           DDH_CurDbgPrompt),
-      CASE(createFullKeyConsoleIOHistoryList,
-           "/Root/Console/ConsoleIOHistory[]", DDH_ConsoleIOHistory),
-      CASE(createFullKeyCmdHistoryList, "/Root/Console/CmdHistory[]",
-           DDH_CmdHistory),
-      CASE(createFullKeyParallelJobList, "/Root/ParallelJob[]",
-           DDH_ParallelJob),
-      CASE(createFullKeyParallelJobItem, "/Root/ParallelJob[]/a",
-           DDH_ParallelJob_Item),
-      CASE(createFullKeyJobList, "/Root/ParallelJob[]/a/Jobs[]", DDH_Jobs),
-      CASE(createFullKeyJobItem, JOB, DDH_Jobs_Item),
-      CASE(createFullKeyProcessList, JOB "/Process[]", DDH_Process),
-      CASE(createFullKeyProcessItem, PROCESS, DDH_Process_Item),
-      CASE(createFullKeyThreadList, PROCESS "/Threads[]", DDH_Threads),
-      CASE(createFullKeyThreadItem, THREAD, DDH_Threads_Item),
-      CASE(createFullKeyDebugInfo, JOB "/DebugInfo", DDH_DebugInfo),
-      CASE(createFullKeySourceList, JOB "/DebugInfo/Sources[]", DDH_Sources),
-      CASE(createFullKeySourceItem, JOB "/DebugInfo/Sources[]/c",
-           DDH_Sources_Item),
-      CASE(createFullKeyEvents, JOB "/Events", DDH_Events),
-      CASE(createFullKeyBreakPointList, JOB "/Events/BreakPoints[]",
-           DDH_BreakPoints),
-      CASE(createFullKeyBreakPointItem, JOB "/Events/BreakPoints[]/c",
-           DDH_BreakPoints_Item),
-      CASE(createFullKeyPlugInList, "/Root/CoreInfo/PlugIn[]", DDH_PlugIn),
-      CASE(createFullKeyPlugIn, "/Root/CoreInfo/PlugIn[]/a", DDH_PlugIn_Item),
-      CASE(createFullKeyPlugInDataItem, "/Root/CoreInfo/PlugIn[]/a/b",
-           DDH_PlugIn_Item),
-      CASE(createFullKeyStackFrameList, THREAD "/StackFrames[]",
-           DDH_StackFrames),
-      CASE(createFullKeyStackFrameItem, FRAME, DDH_StackFrames_Item),
-      CASE(createFullKeyStackFrameLocals, FRAME "/Locals[]", DDH_FrameLocals),
-      CASE(createFullKeyStackFrameRegisterGrpList, FRAME "/CtxtRegGrps[]",
-           DDH_FrameCtxtRegGrps),
-      CASE(createFullKeyStackFrameRegisterGroup, FRAME "/CtxtRegGrps[]/f",
-           DDH_FrameCtxtRegGrps_Item),
-      CASE(createFullKeyStackFrameRegister, FRAME "/CtxtRegGrps[]/f/g",
-           DDH_FrameCtxtRegGrps_SubItem),
-      CASE(createFullKeyEvalList, PROCESS "/Evaluations[]", DDH_Evaluations),
-      CASE(createFullKeyEvalRoot, PROCESS "/Evaluations[]/d", DDH_EvalRoot),
-      CASE(createFullKeyModuleList, JOB "/DebugInfo/Modules[]", DDH_Modules),
-      CASE(createFullKeyMemoryItem, PROCESS "/Memory[]/d", DDH_Memory_Item),
-      CASE(createFullKeyLocalEvalList, THREAD "/Locals[]", DDH_Locals),
-      CASE(createFullKeyLocalEvalRoot, THREAD "/Locals[]/e", DDH_LocalsRoot),
-      CASE(createFullKeySysRegSet, PROCESS "/SysRegSets[]", DDH_SysRegSets),
-      CASE(createFullKeySysRegGrpList, PROCESS "/SysRegSets[]/d",
-           DDH_SysRegSets_Item),
-      CASE(createFullKeySysRegGroup, PROCESS "/SysRegSets[]/d/e",
-           DDH_SysRegSets_SubItem),
-      CASE(createFullKeySysRegister, PROCESS "/SysRegSets[]/d/e/f",
-           DDH_SysRegSets_SubSubItem),
-      CASE(createFullKeyDisAsmList, PROCESS "/DisAsm[]/d", DDH_DisAsm_Item),
-      CASE(createFullKeyGlobalSymbolList, JOB "/DebugInfo/GlobalSymbols[]",
-           DDH_GlobalSymbols),
-      CASE(createFullKeyModuleSymbolList, JOB "/DebugInfo/ModuleSymbols[]",
-           DDH_ModuleSymbols),
-      CASE(createFullKeyLocalSymbolList, JOB "/DebugInfo/LocalSymbols[]",
-           DDH_LocalSymbols),
-      CASE(createFullKeyUserToolBarList, "/Root/UserToolbar[]",
-           DDH_UserToolbar),
-      CASE(createFullKeySignalList, JOB "/Events/Signals[]", DDH_Signals),
-      CASE(createFullKeyDataSharingEventList, PROCESS "/DataSharingEvent[]",
-           DDH_DataSharingEvent),
-      CASE(createFullKeyDataSharingFilterList, PROCESS "/DataSharingFilter[]",
-           DDH_DataSharingFilter),
-      CASE(createFullKeySIMDRegisterList, THREAD "/SIMDRegisters[]/e",
-           DDH_SIMDRegisters_Item),
-      CASE(createFullKeySIMDEvalList, PROCESS "/SIMDEvaluations[]/d",
-           DDH_SIMDEvaluations_Item),
-      CASE(createFullKeyOpenMPTaskList, PROCESS "/OpenMPTask[]",
-           DDH_OpenMPTask),
-      CASE(createFullKeyOpenMPBarrierList, PROCESS "/OpenMPBarrier[]",
-           DDH_OpenMPBarrier),
-      CASE(createFullKeyOpenMPTaskWaitList, PROCESS "/OpenMPTaskWait[]",
-           DDH_OpenMPTaskWait),
-      CASE(createFullKeyOpenMPLockList, PROCESS "/OpenMPLock[]",
-           DDH_OpenMPLock),
-      CASE(createFullKeyOpenMPTeamList, PROCESS "/OpenMPTeam[]",
-           DDH_OpenMPTeam),
-      CASE(createFullKeyThreadSetList, PROCESS "/ThreadSet[]", DDH_ThreadSet),
-      CASE(createFullKeyReEntrantCallList, PROCESS "/ReEntrantCalls[]",
-           DDH_ReEntrantCalls),
-      CASE(createFullKeyLoadableList, PROCESS "/Loadables[]", DDH_Loadables),
-      CASE(createFullKeyLoadableListItem, PROCESS "/Loadables[]/d",
-           DDH_Loadables_Item),
+      CASE(ContextRegisterGrpList, THREAD "/CtxtRegGrps[]", CtxtRegGrps),
+      CASE(ContextRegisterGroup, THREAD "/CtxtRegGrps[]/e", CtxtRegGrps_Item),
+      CASE(ContextRegister, THREAD "/CtxtRegGrps[]/e/f", CtxtRegGrps_SubItem),
+      CASE(Root, "/Root", Root),
+      CASE(DebuggerState, "/Root/DebuggerState", DebuggerState),
+      CASE(ActiveDebuggee, "/Root/DebuggerState/ActiveDebuggee",
+           ActiveDebuggee),
+      CASE(CurScope, "/Root/DebuggerState/CurScope", CurScope),
+      CASE(Console, "/Root/Console", Console),
+      CASE(CurDbgPrompt, "/Root/Console/CurDbgPrompt", CurDbgPrompt),
+      CASE(ConsoleIOHistoryList, "/Root/Console/ConsoleIOHistory[]",
+           ConsoleIOHistory),
+      CASE(CmdHistoryList, "/Root/Console/CmdHistory[]", CmdHistory),
+      CASE(ParallelJobList, "/Root/ParallelJob[]", ParallelJob),
+      CASE(ParallelJobItem, "/Root/ParallelJob[]/a", ParallelJob_Item),
+      CASE(JobList, "/Root/ParallelJob[]/a/Jobs[]", Jobs),
+      CASE(JobItem, JOB, Jobs_Item),
+      CASE(ProcessList, JOB "/Process[]", Process),
+      CASE(ProcessItem, PROCESS, Process_Item),
+      CASE(ThreadList, PROCESS "/Threads[]", Threads),
+      CASE(ThreadItem, THREAD, Threads_Item),
+      CASE(DebugInfo, JOB "/DebugInfo", DebugInfo),
+      CASE(SourceList, JOB "/DebugInfo/Sources[]", Sources),
+      CASE(SourceItem, JOB "/DebugInfo/Sources[]/c", Sources_Item),
+      CASE(Events, JOB "/Events", Events),
+      CASE(BreakPointList, JOB "/Events/BreakPoints[]", BreakPoints),
+      CASE(BreakPointItem, JOB "/Events/BreakPoints[]/c", BreakPoints_Item),
+      CASE(PlugInList, "/Root/CoreInfo/PlugIn[]", PlugIn),
+      CASE(PlugIn, "/Root/CoreInfo/PlugIn[]/a", PlugIn_Item),
+      CASE(PlugInDataItem, "/Root/CoreInfo/PlugIn[]/a/b", PlugIn_Item),
+      CASE(StackFrameList, THREAD "/StackFrames[]", StackFrames),
+      CASE(StackFrameItem, FRAME, StackFrames_Item),
+      CASE(StackFrameLocals, FRAME "/Locals[]", FrameLocals),
+      CASE(StackFrameRegisterGrpList, FRAME "/CtxtRegGrps[]", FrameCtxtRegGrps),
+      CASE(StackFrameRegisterGroup, FRAME "/CtxtRegGrps[]/f",
+           FrameCtxtRegGrps_Item),
+      CASE(StackFrameRegister, FRAME "/CtxtRegGrps[]/f/g",
+           FrameCtxtRegGrps_SubItem),
+      CASE(EvalList, PROCESS "/Evaluations[]", Evaluations),
+      CASE(EvalRoot, PROCESS "/Evaluations[]/d", EvalRoot),
+      CASE(ModuleList, JOB "/DebugInfo/Modules[]", Modules),
+      CASE(MemoryItem, PROCESS "/Memory[]/d", Memory_Item),
+      CASE(LocalEvalList, THREAD "/Locals[]", Locals),
+      CASE(LocalEvalRoot, THREAD "/Locals[]/e", LocalsRoot),
+      CASE(SysRegSet, PROCESS "/SysRegSets[]", SysRegSets),
+      CASE(SysRegGrpList, PROCESS "/SysRegSets[]/d", SysRegSets_Item),
+      CASE(SysRegGroup, PROCESS "/SysRegSets[]/d/e", SysRegSets_SubItem),
+      CASE(SysRegister, PROCESS "/SysRegSets[]/d/e/f", SysRegSets_SubSubItem),
+      CASE(DisAsmList, PROCESS "/DisAsm[]/d", DisAsm_Item),
+      CASE(GlobalSymbolList, JOB "/DebugInfo/GlobalSymbols[]", GlobalSymbols),
+      CASE(ModuleSymbolList, JOB "/DebugInfo/ModuleSymbols[]", ModuleSymbols),
+      CASE(LocalSymbolList, JOB "/DebugInfo/LocalSymbols[]", LocalSymbols),
+      CASE(UserToolBarList, "/Root/UserToolbar[]", UserToolbar),
+      CASE(SignalList, JOB "/Events/Signals[]", Signals),
+      CASE(DataSharingEventList, PROCESS "/DataSharingEvent[]",
+           DataSharingEvent),
+      CASE(DataSharingFilterList, PROCESS "/DataSharingFilter[]",
+           DataSharingFilter),
+      CASE(SIMDRegisterList, THREAD "/SIMDRegisters[]/e", SIMDRegisters_Item),
+      CASE(SIMDEvalList, PROCESS "/SIMDEvaluations[]/d", SIMDEvaluations_Item),
+      CASE(OpenMPTaskList, PROCESS "/OpenMPTask[]", OpenMPTask),
+      CASE(OpenMPBarrierList, PROCESS "/OpenMPBarrier[]", OpenMPBarrier),
+      CASE(OpenMPTaskWaitList, PROCESS "/OpenMPTaskWait[]", OpenMPTaskWait),
+      CASE(OpenMPLockList, PROCESS "/OpenMPLock[]", OpenMPLock),
+      CASE(OpenMPTeamList, PROCESS "/OpenMPTeam[]", OpenMPTeam),
+      CASE(ThreadSetList, PROCESS "/ThreadSet[]", ThreadSet),
+      CASE(ReEntrantCallList, PROCESS "/ReEntrantCalls[]", ReEntrantCalls),
+      CASE(LoadableList, PROCESS "/Loadables[]", Loadables),
+      CASE(LoadableListItem, PROCESS "/Loadables[]/d", Loadables_Item),
   };
   return cases;
 }
@@ -373,24 +343,6 @@ TEST(FullKeyTest, EveryBuilderBuildsAKeyThatParsesToItsPlace) {
     ASSERT_TRUE(c.build(prefixed));
     EXPECT_EQ(prefixed.toString(), std::string("/Before") + c.text);
   }
-}
-
-TEST(FullKeyTest, SubKeysStayOneElement) {
-  DbgDataKey key;
-  ASSERT_TRUE(st_ddmanager.createFullKeyBreakPointItem(key, "0", "1", "7"));
-  EXPECT_EQ(key.toString(),
-            "/Root/ParallelJob[]/0/Jobs[]/1/Events/BreakPoints[]/7");
-
-  key = DbgDataKey();
-  ASSERT_TRUE(
-      st_ddmanager.createFullKeyMemoryItem(key, "p/1", "j", "//", "m\\"));
-  ASSERT_EQ(key.size(), 9u);
-  EXPECT_EQ(key[2], "p/1");
-  EXPECT_EQ(key[6], "//");
-  EXPECT_EQ(key.toString(),
-            "/Root/ParallelJob[]/p\\/1/Jobs[]/j/Process[]/\\/\\//Memory[]/m\\");
-  // The text form reads back into the same elements.
-  EXPECT_EQ(DbgDataKey(key.toString()), key);
 }
 
 } // namespace

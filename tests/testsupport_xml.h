@@ -18,24 +18,18 @@ namespace Vemo {
 namespace DbgData {
 namespace TestSupport {
 
-// Indented outline of node and everything below it, one line per node, two
-// blanks per level: an element as its name followed by " name=value" for
-// each attribute, sorted by name (the DOM keeps no order of attributes); any
-// other node as its node name and its value in double quotes.
+// Outline of node and everything below it, one line per node indented by
+// two blanks per level: an element as its name and " name=value" for each
+// attribute, sorted by name; any other node as its name and quoted value.
 std::string outlineOf(const xercesc::DOMNode* node);
-
-// Serializes object into a fresh XML writer and answers the outline of the
-// whole document (from "UserContentContainer" down).
+// The outline of a fresh XML writer's document after writing object.
 std::string xmlOutline(const DebuggerData& object);
-
-// Serializes object with the XML writer and reads it back with the DOM
-// reader and the shared deserializer; with viaText the document goes through
-// pretty-printed XML text first. Null when any step fails.
+// Writes object with the XML writer and reads it back with the DOM reader,
+// with viaText through pretty-printed XML text. Null when any step fails.
 std::unique_ptr<DebuggerData> xmlRoundTrip(const DebuggerData& object,
                                            bool viaText);
-
-// Reads the object below the document element of an XML text. Fails the
-// current test (and answers null) when the text does not parse.
+// Reads the object below the document element of an XML text; a text that
+// does not parse fails the current test.
 std::unique_ptr<DebuggerData> readXmlText(const std::string& xml);
 
 } // namespace TestSupport

@@ -17,8 +17,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <memory>
-#include <sstream>
 #include <string>
 
 using namespace Vemo::DbgData;
@@ -35,10 +33,6 @@ struct ToolRun {
 std::string readFile(const fs::path& path) {
   std::ifstream in(path, std::ios::binary);
   return std::string(std::istreambuf_iterator<char>(in), {});
-}
-
-void writeFile(const fs::path& path, const std::string& text) {
-  std::ofstream(path, std::ios::binary) << text;
 }
 
 std::size_t lineCount(const std::string& text) {
@@ -63,9 +57,11 @@ protected:
   }
 
   fs::path file(const std::string& name, const std::string& text) {
-    const fs::path path = m_dir / name;
-    writeFile(path, text);
-    return path;
+    std::ofstream(m_dir / name, std::ios::binary) << text;
+    return m_dir / name;
+  }
+  ToolRun dump(const std::string& text) {
+    return run("dump '" + file("in.xml", text).string() + "'");
   }
 
   // Runs the tool with arguments (already quoted for the shell), standard
@@ -97,15 +93,9 @@ TEST_F(ToolTest, SelfCheckPassesAndUsageErrorsExitWithTwo) {
   EXPECT_EQ(check.status, 0);
   EXPECT_EQ(check.err, "");
   EXPECT_GT(lineCount(check.out), 55u);
-  EXPECT_NE(check.out.find("Test for debugger data class DataListWC "
-                           "successfully completed.\n"),
-            std::string::npos);
-
-  EXPECT_EQ(run("").status, 2);
-  EXPECT_EQ(run("frobnicate").status, 2);
-  EXPECT_EQ(run("selfcheck extra").status, 2);
-  EXPECT_EQ(run("key").status, 2);
-  EXPECT_EQ(run("dump a b").status, 2);
+  for (const char* wrong :
+       {"", "frobnicate", "selfcheck extra", "key", "dump a b"})
+    EXPECT_EQ(run(wrong).status, 2) << wrong;
   for (const char* help :
        {"--help", "-h", "selfcheck --help", "dump -h", "key --help"}) {
     const ToolRun shown = run(help);
@@ -115,26 +105,19 @@ TEST_F(ToolTest, SelfCheckPassesAndUsageErrorsExitWithTwo) {
 }
 
 TEST_F(ToolTest, DumpOfLibraryWrittenXmlMatchesTheDirectDump) {
-  std::string direct;
-  std::string flat;
-  std::string indented;
+  std::string direct, flat, indented;
   {
-    XmlPlatform xml;
-    SerializerHelperDOM writer;
     auto list = TestSupport::make<DataListWC>("DataListWC", "regs");
-    auto prompt = TestSupport::make<CurDbgPrompt>("CurDbgPrompt", "p");
     auto line =
         TestSupport::make<ConsoleIOHistoryItem>("ConsoleIOHistoryItem", "7");
     auto scope = TestSupport::make<CurScope>("CurScope", "c");
     fillDataListWC(list.get());
-    fillCurDbgPrompt(prompt.get());
     fillConsoleIOHistoryItem(line.get());
     fillCurScope(scope.get());
+    SerializerHelperDOM writer;
     for (const DebuggerData* object :
-         {static_cast<const DebuggerData*>(list.get()),
-          static_cast<const DebuggerData*>(prompt.get()),
-          static_cast<const DebuggerData*>(line.get()),
-          static_cast<const DebuggerData*>(scope.get())}) {
+         std::initializer_list<const DebuggerData*>{list.get(), line.get(),
+                                                    scope.get()}) {
       ASSERT_TRUE(object->serialize(&writer));
       direct += TestSupport::dumpText(*object);
     }
@@ -143,8 +126,7 @@ TEST_F(ToolTest, DumpOfLibraryWrittenXmlMatchesTheDirectDump) {
   }
   ASSERT_NE(indented.find("\n  <"), std::string::npos);
 
-  const ToolRun fromFlat =
-      run("dump '" + file("flat.xml", flat).string() + "'");
+  const ToolRun fromFlat = dump(flat);
   EXPECT_EQ(fromFlat.status, 0) << fromFlat.err;
   EXPECT_EQ(fromFlat.out, direct);
   const ToolRun fromStdin = run("dump -", file("indented.xml", indented));
@@ -160,54 +142,40 @@ TEST_F(ToolTest, MalformedInputGivesOneLineAndExitTwo) {
   const auto container = [](const std::string& inner) {
     return "<UserContentContainer>" + inner + "</UserContentContainer>";
   };
-  struct Case {
-    const char* name;
-    std::string text;
-    const char* says;
-  };
-  const Case cases[] = {
-      {"not XML", "just text", "1:1: not XML"},
-      {"truncated", "<UserContentContainer>\n<DataElement", "2:"},
-      {"wrong root", "<Objects/>", "document element is \"Objects\""},
-      {"Child under the root", container("<Child>" + prompt + "</Child>"),
-       "not the layout"},
-      {"no ClassName",
-       container("<DataElement SubKey=\"s\"><attributes/><values/>"
+  // Each malformed text, and what its one line of diagnostics says.
+  const std::pair<std::string, const char*> cases[] = {
+      {"just text", "1:1: not XML"},
+      {"<UserContentContainer>\n<DataElement", "2:"},
+      {"<Objects/>", "document element is \"Objects\""},
+      {container("<Child>" + prompt + "</Child>"), "not the layout"},
+      {container("<DataElement SubKey=\"s\"><attributes/><values/>"
                  "</DataElement>"),
        "'ClassName'"},
-      {"text in a list",
-       container("<DataList ClassName=\"DataList\" SubKey=\"l\"><List>x"
+      {container("<DataList ClassName=\"DataList\" SubKey=\"l\"><List>x"
                  "</List></DataList>"),
        "not the layout"},
-      {"empty Child",
-       container("<DataList ClassName=\"DataList\" SubKey=\"l\"><List>"
+      {container("<DataList ClassName=\"DataList\" SubKey=\"l\"><List>"
                  "<Child/></List></DataList>"),
        "not the layout"},
-      {"empty EngineData",
-       container("<DataElement ClassName=\"Root\" SubKey=\"r\"><attributes/>"
+      {container("<DataElement ClassName=\"Root\" SubKey=\"r\"><attributes/>"
                  "<values/><EngineData/></DataElement>"),
        "not the layout"},
-      {"leaf class in a list section",
-       container("<DataList ClassName=\"Root\" SubKey=\"l\"><List/>"
+      {container("<DataList ClassName=\"Root\" SubKey=\"l\"><List/>"
                  "</DataList>"),
        "'ClassName'"},
-      {"unknown class",
-       container(prompt + "<DataElement ClassName=\"Nope\" "
-                          "SubKey=\"n\"><attributes/><values/>"
-                          "</DataElement>"),
+      {container(prompt + "<DataElement ClassName=\"Nope\" SubKey=\"n\">"
+                          "<attributes/><values/></DataElement>"),
        "object 2 (class \"Nope\") cannot be made"},
-      {"document type",
-       "<!DOCTYPE UserContentContainer [<!ENTITY e \"e\">]>" + container(""),
+      {"<!DOCTYPE UserContentContainer [<!ENTITY e \"e\">]>" + container(""),
        "not XML"},
   };
-  for (const Case& c : cases) {
-    const ToolRun result =
-        run("dump '" + file("bad.xml", c.text).string() + "'");
-    EXPECT_EQ(result.status, 2) << c.name;
-    EXPECT_EQ(result.out, "") << c.name;
-    EXPECT_EQ(lineCount(result.err), 1u) << c.name << ": " << result.err;
-    EXPECT_NE(result.err.find(c.says), std::string::npos)
-        << c.name << ": " << result.err;
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.first);
+    const ToolRun result = dump(c.first);
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.out, "");
+    EXPECT_EQ(lineCount(result.err), 1u) << result.err;
+    EXPECT_NE(result.err.find(c.second), std::string::npos) << result.err;
   }
 
   const ToolRun missing =
@@ -219,13 +187,9 @@ TEST_F(ToolTest, MalformedInputGivesOneLineAndExitTwo) {
   // Comments and processing instructions between the children are dropped
   // before the reader walks the list.
   const ToolRun commented =
-      run("dump '" +
-          file("commented.xml",
-               container("<DataList ClassName=\"DataList\" SubKey=\"l\"><List>"
-                         "<!-- c --><?pi x?><Child>" +
-                         prompt + "</Child></List></DataList>"))
-              .string() +
-          "'");
+      dump(container("<DataList ClassName=\"DataList\" SubKey=\"l\"><List>"
+                     "<!-- c --><?pi x?><Child>" +
+                     prompt + "</Child></List></DataList>"));
   EXPECT_EQ(commented.status, 0) << commented.err;
   EXPECT_NE(commented.out.find("PromptText=>"), std::string::npos);
 }
