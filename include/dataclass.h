@@ -272,8 +272,10 @@ public:
   DD_DATA_CLASS_IMPL_UNBOUND(Class, SourceName)                                \
   DD_BIND_CLASS_ROW(DDID_##Class, Class)
 
-// The same for a class that has no row of its own name; bind it to the rows
-// that create it with DD_BIND_CLASS_ROW.
+// The same for a class that the factory must not create under its own row
+// (the rows of classes such as SymbolListContent or WatchPointItem stay
+// unbound), or that has no row of its own name; bind it to the rows that
+// create it, if any, with DD_BIND_CLASS_ROW.
 #define DD_DATA_CLASS_IMPL_UNBOUND(Class, SourceName)                          \
   DD_DEFINE_IDENTITY(Class, Class::BaseClass)                                  \
   void Class::cloneMembers(::Vemo::DbgData::DebuggerData* target) const {      \

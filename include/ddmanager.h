@@ -357,8 +357,9 @@ public:
   static const char* getHierarchyName(DDHierarchyID id);
 
   // Walks the key through the automaton, appending to result (which is not
-  // cleared). False for an empty key, a rejected key, or a key that goes on
-  // after its end.
+  // cleared). False for an empty key, an element the "<Undefined>" reject
+  // transition takes, or a key that goes on after a place that must end it
+  // (an end, or a reserved place leading to reject).
   bool parseFullKey(const DbgDataKey& key, DataHierarchy& result) const;
   bool parseFullKey(const std::string& text, DataHierarchy& result) const;
 

@@ -204,6 +204,8 @@ public:
 
   void setEngineData(const DebuggerData*) override {}
 
+  // The container itself: callers may reorder, remove (taking ownership)
+  // and append; a null pointer put into it is skipped by every operation.
   DebuggerDataList* getList() override { return &m_children; }
   virtual const DebuggerDataList* getConstList() const { return &m_children; }
   const DebuggerData* getChild(const std::string& subKey) const override;

@@ -49,10 +49,10 @@ private:
 class CurScope : public DataElement {
   DD_DATA_CLASS(CurScope, DataElement)
 
-  _ExecState getExecState() const { return m_ExecState; }
-  void setExecState(_ExecState v) { m_ExecState = v; }
-  const Scope& getLocation() const { return m_Location; }
-  void setLocation(const Scope& v) { m_Location = v; }
+  virtual _ExecState getExecState() const { return m_ExecState; }
+  virtual void setExecState(_ExecState v) { m_ExecState = v; }
+  virtual const Scope& getLocation() const { return m_Location; }
+  virtual void setLocation(const Scope& v) { m_Location = v; }
   DD_SCOPE_POSITION_ACCESSORS(m_Location)
 
 private:

@@ -242,8 +242,8 @@ bool DbgDataManager::parseFullKey(const DbgDataKey& key,
   if (consumed > 0)
     result.key.append(key, 0, consumed);
   // A key that ends on a reserved place (a transition to reject) is
-  // consumed, but it names no valid place, so it is not accepted.
-  return accepted && state != StateReject;
+  // accepted like any other: reject only forbids a further element.
+  return accepted;
 }
 
 bool DbgDataManager::parseFullKey(const std::string& text,

@@ -135,7 +135,7 @@ DebuggerData* DataList::clone() const {
 
 const DebuggerData* DataList::getChild(const std::string& subKey) const {
   for (const DebuggerData* child : m_children)
-    if (child->getSubKey() == subKey)
+    if (child && child->getSubKey() == subKey)
       return child;
   return nullptr;
 }
@@ -150,7 +150,7 @@ bool DataList::appendChild(const DebuggerData* child) {
 void DataList::setSpecialItem(const std::string& subKey) {
   // Every match is marked in turn, so the last child with the sub key wins.
   for (const DebuggerData* child : m_children)
-    if (child->getSubKey() == subKey)
+    if (child && child->getSubKey() == subKey)
       m_specialItem = child;
 }
 
@@ -172,7 +172,7 @@ bool DataList::operator==(const DebuggerData& other) const {
     return false;
   auto theirs = list.m_children.begin();
   for (const DebuggerData* mine : m_children) {
-    if (!(*mine == **theirs))
+    if (!mine || !*theirs ? mine != *theirs : !(*mine == **theirs))
       return false;
     ++theirs;
   }
@@ -205,6 +205,8 @@ bool DataList::serializeMembers(ISerializerHelper* writer) const {
   // Each child's outcome replaces the running result, so only the last
   // child decides the answer.
   for (const DebuggerData* child : m_children) {
+    if (!child)
+      continue;
     result = writer->pushSection("Child");
     if (result) {
       result = child->serialize(writer) && result;
@@ -224,7 +226,8 @@ void DataList::cloneMembers(DebuggerData* target) const {
   if (!target || !target->isKindOf(DataList::staticRtti()))
     return;
   for (const DebuggerData* child : m_children)
-    target->appendChild(child->clone()); // a null clone is refused
+    if (child)
+      target->appendChild(child->clone()); // a null clone is refused
   if (m_specialItem)
     target->setSpecialItem(m_specialItem->getSubKey());
 }

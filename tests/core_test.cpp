@@ -282,3 +282,18 @@ TEST(DataListWC, ContentIsOwnedClonedComparedAndWrittenLast) {
   EXPECT_EQ(dumpText(*listOf({})),
             "DataList {\n  ClassName=DataList\n  SubKey=l\n  List {\n  }\n}\n");
 }
+
+TEST(DataList, NullPointersInTheContainerAreSkipped) {
+  auto list = listOf({"a"});
+  list->getList()->push_front(nullptr);
+  EXPECT_EQ(list->getChild("a"), nth(*list, 1));
+  EXPECT_EQ(dumpText(*list), dumpText(*listOf({"a"})));
+  list->setSpecialItem(std::string("a"));
+  EXPECT_EQ(list->getSpecialItem(), nth(*list, 1));
+  std::unique_ptr<DebuggerData> copy(list->clone());
+  EXPECT_EQ(static_cast<DataList&>(*copy).getConstList()->size(), 1u);
+  auto twin = listOf({"a"});
+  twin->getList()->push_front(nullptr);
+  EXPECT_TRUE(*list == *twin);
+  EXPECT_FALSE(*list == *copy);
+}

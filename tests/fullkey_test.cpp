@@ -65,9 +65,10 @@ TEST(FullKeyTest, ParseTable) {
        {2, 4, 6, 8, 10, 11}, 12},
       {FRAME "/CtxtRegGrps[]/g/r", true, DDH_FrameCtxtRegGrps_SubItem,
        {2, 4, 6, 8, 10, 12, 13}, 14},
-      // Reserved places are consumed but rejected.
-      {"/Root/DebuggerState/<RsrvdState3>", false, DDH_RsrvdState3, {}, 3},
-      {JOB "/Events/<RsrvdEvent4>", false, DDH_RsrvdEvent4, {2, 4}, 7},
+      // A reserved place ends the key: it parses, but nothing may follow.
+      {"/Root/DebuggerState/<RsrvdState3>", true, DDH_RsrvdState3, {}, 3},
+      {JOB "/Events/<RsrvdEvent4>", true, DDH_RsrvdEvent4, {2, 4}, 7},
+      {"/Root/DebuggerState/<RsrvdState3>/x", false, DDH_RsrvdState3, {}, 3},
       // Nothing may follow a place that ends the key.
       {"/Root/Console/CurDbgPrompt/x", false, DDH_CurDbgPrompt, {}, 3},
       {FRAME "/Locals[]/x", false, DDH_FrameLocals, {2, 4, 6, 8, 10}, 12},

@@ -209,9 +209,9 @@ TEST_F(ToolTest, KeyPrintsPlaceConsumedKeyAndItemPositions) {
       "  consumed: /Root/Console/CurDbgPrompt\n"
       "  item positions: none\n");
 
-  const ToolRun rejected = run("key /Root/DebuggerState/'<RsrvdState3>' /Root");
+  const ToolRun rejected = run("key /Root/Console/CurDbgPrompt/x /Root");
   EXPECT_EQ(rejected.status, 1);
-  EXPECT_EQ(rejected.out.rfind("/Root/DebuggerState/<RsrvdState3>\n"
+  EXPECT_EQ(rejected.out.rfind("/Root/Console/CurDbgPrompt/x\n"
                                "  does not parse as a full key\n/Root\n",
                                0),
             0u);
