@@ -1,7 +1,10 @@
-// HexDumpHelper: the codec for byte arrays in serialized records.
+// HexDumpHelper: the codec for byte arrays in serialized records, and
+// ByteArray, the owned byte buffer that data classes carry.
 #ifndef DBGDATA_HEXDUMPHELPER_H
 #define DBGDATA_HEXDUMPHELPER_H
 
+#include <cstddef>
+#include <memory>
 #include <string>
 
 namespace Vemo {
@@ -23,6 +26,47 @@ public:
   // bytes. An odd length answers false and writes nothing; non-digits count
   // as 0.
   static bool convertHexToBin(const std::string& text, unsigned char* out);
+  // The same over the first length characters of text.
+  static bool convertHexToBin(const char* text, std::size_t length,
+                              unsigned char* out);
+};
+
+// An owned array of bytes and its size. An empty array holds no buffer at
+// all (data() is null). Copies are deep.
+class ByteArray {
+public:
+  ByteArray() = default;
+  ByteArray(const ByteArray& other) { assign(other.data(), other.size()); }
+  ByteArray& operator=(const ByteArray& other) {
+    if (this != &other)
+      assign(other.data(), other.size());
+    return *this;
+  }
+  ~ByteArray() = default;
+
+  const unsigned char* data() const { return m_data.get(); }
+  unsigned char* data() { return m_data.get(); }
+  const unsigned int& size() const { return m_size; }
+
+  // Replaces the bytes with a copy of size bytes from data; size 0 leaves
+  // the array empty.
+  void assign(const unsigned char* data, unsigned int size);
+  // Sizes and bytes equal.
+  bool operator==(const ByteArray& other) const;
+  bool operator!=(const ByteArray& other) const { return !(*this == other); }
+
+  // The hex text of the bytes; an empty array gives "" and false.
+  bool toHex(std::string& text) const;
+  // Takes size bytes decoded from hex text. The text backs at most
+  // (length + 1) / 2 bytes: a larger size is refused (false, array empty),
+  // so that a size read from outside never allocates more than its text.
+  // Digits beyond 2 x size are ignored; an odd-length text decodes into
+  // zeros (false).
+  bool assignHex(const std::string& text, unsigned int size);
+
+private:
+  std::unique_ptr<unsigned char[]> m_data;
+  unsigned int m_size = 0;
 };
 
 } // namespace DbgData

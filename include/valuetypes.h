@@ -16,14 +16,19 @@ namespace DbgData {
 class ISerializerHelper;
 class IDeserializerHelper;
 
+// Addressing mode of an Address: 0 to 3 are modes, 4 means "not set".
+typedef std::uint32_t AddressType;
+// Width in bits of an Address's offset.
+typedef std::int32_t AddressSize;
+
 // A target address with its addressing mode and offset width.
 // Ordering and equality look at segment, offset and aux only: mode and width
 // take no part, so two addresses differing only in those are equal.
 class Address {
 public:
   Address() = default;
-  Address(std::uint64_t segment, std::uint64_t offset, std::uint64_t aux,
-          std::uint32_t mode, std::int32_t bitWidth)
+  Address(unsigned long long segment, unsigned long long offset,
+          unsigned long long aux, AddressType mode, AddressSize bitWidth)
       : m_segment(segment), m_offset(offset), m_aux(aux), m_mode(mode),
         m_bitWidth(bitWidth) {}
   Address(const Address&) = default;
@@ -49,25 +54,27 @@ public:
   virtual bool operator>=(const Address& other) const;
   virtual bool operator!=(const Address& other) const;
 
-  std::uint64_t getSegment() const { return m_segment; }
-  void setSegment(std::uint64_t v) { m_segment = v; }
-  std::uint64_t getOffset() const { return m_offset; }
-  void setOffset(std::uint64_t v) { m_offset = v; }
-  std::uint64_t getAux() const { return m_aux; }
-  void setAux(std::uint64_t v) { m_aux = v; }
+  // The getters answer references into the address, so that data classes
+  // can pass them through unchanged.
+  const unsigned long long& getSegment() const { return m_segment; }
+  void setSegment(unsigned long long v) { m_segment = v; }
+  const unsigned long long& getOffset() const { return m_offset; }
+  void setOffset(unsigned long long v) { m_offset = v; }
+  const unsigned long long& getAux() const { return m_aux; }
+  void setAux(unsigned long long v) { m_aux = v; }
   // 0 to 3 are modes, 4 means "not set"; mode 2 is the segmented form.
-  std::uint32_t getMode() const { return m_mode; }
-  void setMode(std::uint32_t v) { m_mode = v; }
+  const AddressType& getMode() const { return m_mode; }
+  void setMode(AddressType v) { m_mode = v; }
   // Width of the offset in bits.
-  std::int32_t getBitWidth() const { return m_bitWidth; }
-  void setBitWidth(std::int32_t v) { m_bitWidth = v; }
+  const AddressSize& getBitWidth() const { return m_bitWidth; }
+  void setBitWidth(AddressSize v) { m_bitWidth = v; }
 
 private:
-  std::uint64_t m_segment = 0;
-  std::uint64_t m_offset = 0;
-  std::uint64_t m_aux = 0;
-  std::uint32_t m_mode = 4;
-  std::int32_t m_bitWidth = 32;
+  unsigned long long m_segment = 0;
+  unsigned long long m_offset = 0;
+  unsigned long long m_aux = 0;
+  AddressType m_mode = 4;
+  AddressSize m_bitWidth = 32;
 };
 
 // A position: an address, the full key of the object it belongs to, and two

@@ -71,17 +71,22 @@ bool HexDumpHelper::convertBinToHex(const unsigned char* data,
 
 bool HexDumpHelper::convertHexToBin(const std::string& text,
                                     unsigned char* out) {
-  if (text.size() % 2 != 0)
+  return convertHexToBin(text.data(), text.size(), out);
+}
+
+bool HexDumpHelper::convertHexToBin(const char* text, std::size_t length,
+                                    unsigned char* out) {
+  if (length % 2 != 0)
     return false;
-  if (text.empty())
+  if (length == 0)
     return true;
   if (out == nullptr)
     throwDDFatalError("Bad Pointer!", "src/hexdumphelper.cpp", __LINE__);
   // Local copies of the input's buffer and length: stores into out could
   // otherwise alias the string object and force a reload per byte. Read as
   // unsigned char, since a plain char above 0x7F is negative.
-  const unsigned char* in = reinterpret_cast<const unsigned char*>(text.data());
-  const std::size_t count = text.size() / 2;
+  const unsigned char* in = reinterpret_cast<const unsigned char*>(text);
+  const std::size_t count = length / 2;
   const auto decode = [in](std::size_t byte) {
     return static_cast<unsigned char>(_charmap[in[2 * byte]] * 16 +
                                       _charmap[in[2 * byte + 1]]);
@@ -97,6 +102,44 @@ bool HexDumpHelper::convertHexToBin(const std::string& text,
   for (; i < count; ++i)
     out[i] = decode(i);
   return true;
+}
+
+// ---------------------------------------------------------------------------
+// ByteArray
+
+void ByteArray::assign(const unsigned char* data, unsigned int size) {
+  m_data.reset();
+  if (size > 0) {
+    if (data == nullptr)
+      throwDDFatalError("Bad Pointer!", "src/hexdumphelper.cpp", __LINE__);
+    m_data.reset(new unsigned char[size]);
+    std::memcpy(m_data.get(), data, size);
+  }
+  m_size = size;
+}
+
+bool ByteArray::operator==(const ByteArray& other) const {
+  return m_size == other.m_size &&
+         (m_size == 0 || std::memcmp(data(), other.data(), m_size) == 0);
+}
+
+bool ByteArray::toHex(std::string& text) const {
+  return HexDumpHelper::convertBinToHex(data(), m_size, text);
+}
+
+bool ByteArray::assignHex(const std::string& text, unsigned int size) {
+  m_data.reset();
+  m_size = 0;
+  if (size > text.size() / 2 + text.size() % 2)
+    return false;
+  if (size == 0)
+    return true;
+  m_data.reset(new unsigned char[size]());
+  m_size = size;
+  if (text.size() % 2 != 0)
+    return false;
+  return HexDumpHelper::convertHexToBin(text.data(), 2 * std::size_t(size),
+                                        m_data.get());
 }
 
 } // namespace DbgData

@@ -8,6 +8,7 @@
 #include "rootdata.h"
 #include "stackframedata.h"
 #include "testsupport.h"
+#include "testsupport_classes.h"
 
 #include <gtest/gtest.h>
 
@@ -15,27 +16,11 @@
 #include <functional>
 
 using namespace Vemo::DbgData;
+using TestSupport::ClassCase;
 using TestSupport::dumpText;
+using TestSupport::on;
 
 namespace {
-
-// One field of a class: how to give it a sample value, and the dump line
-// that value produces.
-struct FieldCase {
-  std::function<void(DebuggerData&)> set;
-  std::string line;
-};
-
-struct ClassCase {
-  const char* className;
-  std::vector<std::string> defaultLines; // the class's own keys, in order
-  std::vector<FieldCase> fields;
-};
-
-template <class T, class V, class A>
-std::function<void(DebuggerData&)> on(void (T::*setter)(A), V v) {
-  return [=](DebuggerData& o) { (static_cast<T&>(o).*setter)(v); };
-}
 
 Scope sampleScope() {
   return Scope(Address(0, 0x401000, 0, 1, 32), DbgDataKey("/src/a b.c"), 12, 3);
@@ -116,66 +101,18 @@ const std::vector<ClassCase>& classCases() {
   return cases;
 }
 
-std::unique_ptr<DebuggerData> create(const char* className) {
-  return std::unique_ptr<DebuggerData>(st_ddmanager.factory(className, "k"));
-}
-
-std::string leafDump(const char* className,
-                     const std::vector<std::string>& lines) {
-  std::string text =
-      std::string("DataElement {\n  ClassName=") + className + "\n  SubKey=k\n";
-  for (const std::string& line : lines)
-    text += "  " + line + "\n";
-  return text + "}\n";
-}
-
 } // namespace
 
 TEST(DataClasses, DefaultsKeysAndWriteOrder) {
-  for (const ClassCase& c : classCases()) {
-    SCOPED_TRACE(c.className);
-    auto object = create(c.className);
-    ASSERT_TRUE(object);
-    EXPECT_EQ(object->getClassName(), c.className);
-    EXPECT_STREQ(object->getRtti()->getClassName(), c.className);
-    EXPECT_EQ(dumpText(*object), leafDump(c.className, c.defaultLines));
-  }
+  TestSupport::checkDefaultsKeysAndWriteOrder(classCases());
 }
 
 TEST(DataClasses, EveryFieldIsComparedClonedAssignedAndWritten) {
-  for (const ClassCase& c : classCases()) {
-    for (const FieldCase& f : c.fields) {
-      SCOPED_TRACE(std::string(c.className) + " " + f.line);
-      auto plain = create(c.className);
-      auto changed = create(c.className);
-      f.set(*changed);
-      const std::string changedDump = dumpText(*changed);
-      EXPECT_NE(changedDump.find("\n  " + f.line + "\n"), std::string::npos)
-          << changedDump;
-      EXPECT_FALSE(*plain == *changed);
-      EXPECT_FALSE(*changed == *plain);
-
-      std::unique_ptr<DebuggerData> copy(changed->clone());
-      ASSERT_TRUE(copy);
-      EXPECT_TRUE(*copy == *changed);
-      EXPECT_EQ(dumpText(*copy), changedDump);
-
-      *plain = *changed;
-      EXPECT_TRUE(*plain == *changed);
-      EXPECT_EQ(dumpText(*plain), changedDump);
-    }
-  }
+  TestSupport::checkFieldsCompareCloneAssignAndWrite(classCases());
 }
 
 TEST(DataClassesDeathTest, AssigningAcrossClassesAborts) {
-  for (const ClassCase& c : classCases()) {
-    SCOPED_TRACE(c.className);
-    auto object = create(c.className);
-    auto stranger =
-        create(std::string(c.className) == "Root" ? "RegisterGroup" : "Root");
-    EXPECT_FALSE(*object == *stranger);
-    EXPECT_DEATH(*object = *stranger, "");
-  }
+  TestSupport::checkAssigningAcrossClassesAborts(classCases());
 }
 
 TEST(StackFrameItem, OwnCloneCopiesEverythingAndEngineData) {
