@@ -95,6 +95,47 @@ void fillDataList(Vemo::DbgData::DataList* object);
 // The children of fillDataList and a filled StackFrameListContent as content.
 void fillDataListWC(Vemo::DbgData::DataListWC* object);
 
+// Debug info, disassembly, expression evaluation and SIMD evaluation.
+namespace Vemo {
+namespace DbgData {
+class DebugInfo;
+class SymbolItem;
+class SymbolBrowserConfig;
+class ModuleListContent;
+class ModuleItem;
+class LoadableItem;
+class SymbolToken;
+class DisAsmListContent;
+class DisAsmItem;
+class DisAsmConfig;
+class EvalRootContent;
+class EvalLineContent;
+class EvalLineInternalZMT;
+class SIMDConfig;
+class SIMDEvalRootContent;
+class SIMDEvalRowContent;
+class SIMDEvalItem;
+} // namespace DbgData
+} // namespace Vemo
+void fillDebugInfo(Vemo::DbgData::DebugInfo* object);
+void fillSymbolItem(Vemo::DbgData::SymbolItem* object);
+void fillSymbolBrowserConfig(Vemo::DbgData::SymbolBrowserConfig* object);
+void fillModuleListContent(Vemo::DbgData::ModuleListContent* object);
+void fillModuleItem(Vemo::DbgData::ModuleItem* object);
+void fillLoadableItem(Vemo::DbgData::LoadableItem* object);
+void fillSymbolToken(Vemo::DbgData::SymbolToken* object);
+void fillDisAsmListContent(Vemo::DbgData::DisAsmListContent* object);
+void fillDisAsmItem(Vemo::DbgData::DisAsmItem* object);
+void fillDisAsmConfig(Vemo::DbgData::DisAsmConfig* object);
+// Also the fill of the rows "LocalsRootContent" and "LocalsLineContent".
+void fillEvalRootContent(Vemo::DbgData::EvalRootContent* object);
+void fillEvalLineContent(Vemo::DbgData::EvalLineContent* object);
+void fillEvalLineInternalZMT(Vemo::DbgData::EvalLineInternalZMT* object);
+void fillSIMDConfig(Vemo::DbgData::SIMDConfig* object);
+void fillSIMDEvalRootContent(Vemo::DbgData::SIMDEvalRootContent* object);
+void fillSIMDEvalRowContent(Vemo::DbgData::SIMDEvalRowContent* object);
+void fillSIMDEvalItem(Vemo::DbgData::SIMDEvalItem* object);
+
 // The fill functions by class row, so that the round trip finds the fill of
 // a class without knowing the class. A fill joins with one line next to its
 // definition: DD_SELFCHECK_FILL(DDID_Root, Root, fillRoot).
