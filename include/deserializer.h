@@ -3,6 +3,7 @@
 #ifndef DBGDATA_DESERIALIZER_H
 #define DBGDATA_DESERIALIZER_H
 
+#include "../Common/RTTITempl.h"
 #include "serializerhelper.h"
 
 #include <string>
@@ -42,6 +43,19 @@ public:
   virtual DebuggerData* deserialize(IDeserializerHelper* reader);
   // The factory used for plug-in data objects; not owned, may be null.
   virtual void setPlugInDataFactory(IPlugInDataFactory* factory);
+  // The factory set last, or null.
+  IPlugInDataFactory* getPlugInDataFactory() const {
+    return m_plugInDataFactory;
+  }
+
+  // How the class of plug-in data items takes the plug-in data object made
+  // for one of its items (item is a kind of that class).
+  typedef void (*PlugInDataTaker)(DebuggerData* item, ::IPlugInData* data);
+  // Names the class of plug-in data items. That class is a data class, which
+  // the reader does not know, so it binds itself here at load time; until
+  // it has, no item gets plug-in data. Answers true.
+  static bool bindPlugInDataItem(const RTTITempl<DebuggerData>* itemClass,
+                                 PlugInDataTaker take);
 
 private:
   struct ObjectSection;
@@ -58,7 +72,8 @@ private:
   void readContent(IDeserializerHelper* reader, DebuggerData* list);
   // Engine data object from the "EngineData" section.
   void readEngineData(IDeserializerHelper* reader, DebuggerData* element);
-  // Gives a plug-in data item its plug-in data object.
+  // Gives a plug-in data item the plug-in data object the factory makes for
+  // its "PlugInDataKey"; no factory, or none made: no plug-in data.
   void readPlugInData(IDeserializerHelper* reader, DebuggerData* object);
 
   IPlugInDataFactory* m_plugInDataFactory = nullptr;

@@ -136,6 +136,42 @@ void fillSIMDEvalRootContent(Vemo::DbgData::SIMDEvalRootContent* object);
 void fillSIMDEvalRowContent(Vemo::DbgData::SIMDEvalRowContent* object);
 void fillSIMDEvalItem(Vemo::DbgData::SIMDEvalItem* object);
 
+// Events, signals, process info, plug-in data and small items
+namespace Vemo {
+namespace DbgData {
+class Events;
+class SignalListContent;
+class SignalItem;
+class ProcessInfoListContent;
+class ProcessInfoItem;
+class PlugInDataItem;
+class ReEntrantCallItem;
+class StringList;
+class UserToolBarItem;
+class IPlugInDataFactory;
+} // namespace DbgData
+} // namespace Vemo
+void fillEvents(Vemo::DbgData::Events* object);
+void fillSignalListContent(Vemo::DbgData::SignalListContent* object);
+void fillSignalItem(Vemo::DbgData::SignalItem* object);
+void fillProcessInfoListContent(Vemo::DbgData::ProcessInfoListContent* object);
+void fillProcessInfoItem(Vemo::DbgData::ProcessInfoItem* object);
+// Twelve elements, so that the keys reach "LF000A" and beyond.
+void fillStringList(Vemo::DbgData::StringList* object);
+// The Command holds a line feed.
+void fillUserToolBarItem(Vemo::DbgData::UserToolBarItem* object);
+void fillReEntrantCallItem(Vemo::DbgData::ReEntrantCallItem* object);
+// Gives the item a plug-in data object of the self-check's own, with the
+// plug-in data key "SelfCheckPlugInData".
+void fillPlugInDataItem(Vemo::DbgData::PlugInDataItem* object);
+// The factory of the self-check's own plug-in data objects: it makes one for
+// the key "SelfCheckPlugInData" and answers null for any other key. The
+// round trip installs it on the shared deserializer while it reads back.
+// The self-check owns every plug-in data object it makes (for a fill, by
+// this factory, or as a clone of one of them): they stay valid until the
+// end of the process, which frees them.
+Vemo::DbgData::IPlugInDataFactory* getSelfCheckPlugInDataFactory();
+
 // The fill functions by class row, so that the round trip finds the fill of
 // a class without knowing the class. A fill joins with one line next to its
 // definition: DD_SELFCHECK_FILL(DDID_Root, Root, fillRoot).

@@ -82,6 +82,24 @@ private:
   IDeserializerHelper* m_reader;
 };
 
+// Installs a plug-in data factory on the shared deserializer for the
+// lifetime of the object and puts the previous one back afterwards.
+class PlugInDataFactoryScope {
+public:
+  explicit PlugInDataFactoryScope(IPlugInDataFactory* factory)
+      : m_previous(getDeserializer()->getPlugInDataFactory()) {
+    getDeserializer()->setPlugInDataFactory(factory);
+  }
+  ~PlugInDataFactoryScope() {
+    getDeserializer()->setPlugInDataFactory(m_previous);
+  }
+  PlugInDataFactoryScope(const PlugInDataFactoryScope&) = delete;
+  PlugInDataFactoryScope& operator=(const PlugInDataFactoryScope&) = delete;
+
+private:
+  IPlugInDataFactory* m_previous;
+};
+
 } // namespace
 
 bool registerSelfCheckFill(DebuggerDataID id, SelfCheckFill fill) {
@@ -127,7 +145,12 @@ bool runSerializationRoundTrip(const std::string& className) {
     return false;
   }
   reader->resetDOM(container);
-  std::unique_ptr<DebuggerData> copy(getDeserializer()->deserialize(reader));
+  std::unique_ptr<DebuggerData> copy;
+  {
+    // The sample plug-in item's plug-in data is the self-check's own.
+    PlugInDataFactoryScope plugInData(getSelfCheckPlugInDataFactory());
+    copy.reset(getDeserializer()->deserialize(reader));
+  }
   reader->cleanupDOM();
   if (!copy) {
     error_deserialization(className);

@@ -1,5 +1,6 @@
 #include "deserializer.h"
 
+#include "../Common/DDAssert.h"
 #include "ddfatalerror.h"
 #include "ddmanager.h"
 #include "debuggerdata.h"
@@ -14,6 +15,12 @@ const char* const kSourceName = "src/deserializer";
 // Sections that belong inside an object's section; finding one where an
 // object section should be means the data is misplaced, not unknown.
 const char* const kInnerSections[] = {"EngineData", "Child", "Content", "List"};
+
+// The class of plug-in data items and how it takes its plug-in data, as
+// bound by that class. Constant-initialised, so they are null before any
+// other file's static initialisation binds them.
+const RTTITempl<DebuggerData>* s_plugInItemClass = nullptr;
+Deserializer::PlugInDataTaker s_takePlugInData = nullptr;
 
 } // namespace
 
@@ -132,13 +139,32 @@ void Deserializer::readEngineData(IDeserializerHelper* reader,
   reader->popSection();
 }
 
+bool Deserializer::bindPlugInDataItem(const RTTITempl<DebuggerData>* itemClass,
+                                      PlugInDataTaker take) {
+  DD_ASSERT(itemClass && take);
+  s_plugInItemClass = itemClass;
+  s_takePlugInData = take;
+  return true;
+}
+
 void Deserializer::readPlugInData(IDeserializerHelper* reader,
                                   DebuggerData* object) {
-  // Hook for plug-in data items: reading their "PlugInDataKey" and attaching
-  // the object m_plugInDataFactory makes for it belongs here. Until the
-  // plug-in item class is part of the library there is nothing to attach.
-  (void)reader;
-  (void)object;
+  // Only an item made under the class name of plug-in items.
+  if (!s_plugInItemClass || !object->isKindOf(s_plugInItemClass))
+    return;
+  const char* plugInItemName = DbgDataManager::getClassName(DDID_PlugInItem);
+  if (!plugInItemName || object->getClassName() != plugInItemName)
+    return;
+  if (!m_plugInDataFactory)
+    return;
+  // The plug-in data object wrote its key into the item's values when it
+  // serialized itself; the item's own members then let it read the rest.
+  std::string plugInDataKey;
+  if (!reader->getString("PlugInDataKey", &plugInDataKey))
+    return;
+  if (::IPlugInData* plugInData =
+          m_plugInDataFactory->createPlugInData(plugInDataKey))
+    s_takePlugInData(object, plugInData);
 }
 
 Deserializer* getDeserializer() {
