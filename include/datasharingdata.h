@@ -134,7 +134,8 @@ private:
   // The item's thread: a ThreadItem made by the factory with the item and
   // freed with it. It travels as the thread's own sixteen keys, flat in the
   // item's section; copying copies those fields into the target's own
-  // thread, and comparison compares them.
+  // thread, and comparison compares them (the rest of a ThreadItem, its
+  // class name and empty sub key, is the same in every item).
   class OwnedThread {
   public:
     OwnedThread();
