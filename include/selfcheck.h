@@ -172,6 +172,51 @@ void fillPlugInDataItem(Vemo::DbgData::PlugInDataItem* object);
 // end of the process, which frees them.
 Vemo::DbgData::IPlugInDataFactory* getSelfCheckPlugInDataFactory();
 
+// Debuggee tree, data sharing and OpenMP.
+namespace Vemo {
+namespace DbgData {
+class ParallelJobListContent;
+class ParallelJobItem;
+class JobListContent;
+class JobItem;
+class ProcessListContent;
+class ProcessItem;
+class ThreadListContent;
+class ThreadItem;
+class ThreadSet;
+class DataSharingConfig;
+class DataSharingFilterItem;
+class DataAccessItem;
+class OpenMPTask;
+class OpenMPBarrier;
+class OpenMPTaskWait;
+class OpenMPLock;
+class OpenMPTeam;
+class OpenMPExecEnv;
+} // namespace DbgData
+} // namespace Vemo
+// The six placeholders have no sample members: engine data only.
+void fillParallelJobListContent(Vemo::DbgData::ParallelJobListContent* object);
+void fillParallelJobItem(Vemo::DbgData::ParallelJobItem* object);
+void fillJobListContent(Vemo::DbgData::JobListContent* object);
+void fillJobItem(Vemo::DbgData::JobItem* object);
+void fillProcessListContent(Vemo::DbgData::ProcessListContent* object);
+void fillProcessItem(Vemo::DbgData::ProcessItem* object);
+// Sets its one member to false (0).
+void fillThreadListContent(Vemo::DbgData::ThreadListContent* object);
+void fillThreadItem(Vemo::DbgData::ThreadItem* object);
+void fillThreadSet(Vemo::DbgData::ThreadSet* object);
+void fillDataSharingConfig(Vemo::DbgData::DataSharingConfig* object);
+void fillDataSharingFilterItem(Vemo::DbgData::DataSharingFilterItem* object);
+// Gives the item's own thread the sample values of fillThreadItem.
+void fillDataAccessItem(Vemo::DbgData::DataAccessItem* object);
+void fillOpenMPTask(Vemo::DbgData::OpenMPTask* object);
+void fillOpenMPBarrier(Vemo::DbgData::OpenMPBarrier* object);
+void fillOpenMPTaskWait(Vemo::DbgData::OpenMPTaskWait* object);
+void fillOpenMPLock(Vemo::DbgData::OpenMPLock* object);
+void fillOpenMPTeam(Vemo::DbgData::OpenMPTeam* object);
+void fillOpenMPExecEnv(Vemo::DbgData::OpenMPExecEnv* object);
+
 // The fill functions by class row, so that the round trip finds the fill of
 // a class without knowing the class. A fill joins with one line next to its
 // definition: DD_SELFCHECK_FILL(DDID_Root, Root, fillRoot).
