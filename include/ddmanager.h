@@ -8,7 +8,7 @@
 #ifndef DBGDATA_DDMANAGER_H
 #define DBGDATA_DDMANAGER_H
 
-#include "../Common/RTTITempl.h"
+#include "Common/RTTITempl.h"
 #include "dbgdatakey.h"
 
 #include <cstdint>

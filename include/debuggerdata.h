@@ -4,7 +4,7 @@
 #ifndef DBGDATA_DEBUGGERDATA_H
 #define DBGDATA_DEBUGGERDATA_H
 
-#include "../Common/RTTITempl.h"
+#include "Common/RTTITempl.h"
 #include "ddfatalerror.h"
 #include "serializerhelper.h"
 

@@ -11,7 +11,7 @@
 #ifndef DBGDATA_SELFCHECK_H
 #define DBGDATA_SELFCHECK_H
 
-#include "../Common/DDAssert.h"
+#include "Common/DDAssert.h"
 #include "ddmanager.h"
 #include "debuggerdata.h"
 #include "serializerhelper.h"
