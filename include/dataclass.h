@@ -38,7 +38,7 @@
 #ifndef DBGDATA_DATACLASS_H
 #define DBGDATA_DATACLASS_H
 
-#include "../Common/DDAssert.h"
+#include "Common/DDAssert.h"
 #include "dbgdatakey.h"
 #include "ddmanager.h"
 #include "debuggerdata.h"

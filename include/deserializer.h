@@ -3,7 +3,7 @@
 #ifndef DBGDATA_DESERIALIZER_H
 #define DBGDATA_DESERIALIZER_H
 
-#include "../Common/RTTITempl.h"
+#include "Common/RTTITempl.h"
 #include "serializerhelper.h"
 
 #include <string>
