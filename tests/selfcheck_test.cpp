@@ -172,8 +172,9 @@ TEST(SelfCheck, EachFaultOfTheRoundTripPrintsItsOneLine) {
 TEST(SelfCheckFill, SamplesDifferFromDefaultsAndCarryEngineData) {
   // Classes whose members have no sample values compare equal to a fresh
   // object; every other fill must change something that == sees.
-  const std::set<std::string> noOwnMembers = {"DebuggerState",
-                                              "StackFrameListContent"};
+  const std::set<std::string> noOwnMembers = {
+      "DebuggerState", "StackFrameListContent", "MemoryListContent",
+      "SourceListContent", "BreakPointListContent"};
   for (const std::string& name : creatableClasses()) {
     DebuggerDataID id;
     ASSERT_TRUE(st_ddmanager.getClassId(name, &id));
