@@ -217,6 +217,46 @@ void fillOpenMPLock(Vemo::DbgData::OpenMPLock* object);
 void fillOpenMPTeam(Vemo::DbgData::OpenMPTeam* object);
 void fillOpenMPExecEnv(Vemo::DbgData::OpenMPExecEnv* object);
 
+// Memory, source and breakpoints.
+namespace Vemo {
+namespace DbgData {
+class MemoryListContent;
+class MemoryItem;
+class MemoryAddress;
+class SourceListContent;
+class SourceItem;
+class SourceScope;
+class BreakPointListContent;
+class BreakPointItem;
+class BreakPointInternalZMT;
+class BreakPointInternalKYR;
+class WatchPointInternalZMT;
+class WatchPointInternalKYR;
+} // namespace DbgData
+} // namespace Vemo
+void fillMemoryListContent(Vemo::DbgData::MemoryListContent* object);
+void fillMemoryItem(Vemo::DbgData::MemoryItem* object);
+void fillMemoryAddress(Vemo::DbgData::MemoryAddress* object);
+void fillSourceListContent(Vemo::DbgData::SourceListContent* object);
+// Two lines, 0x12345678 and 0x87654321.
+void fillSourceItem(Vemo::DbgData::SourceItem* object);
+void fillSourceScope(Vemo::DbgData::SourceScope* object);
+void fillBreakPointListContent(Vemo::DbgData::BreakPointListContent* object);
+// A synchronised code breakpoint with the standard engine data.
+void fillBreakPointItem(Vemo::DbgData::BreakPointItem* object);
+// Breakpoints as each engine reports them: the members of
+// fillBreakPointItem with the Kind of a code breakpoint (ZMT), a synchronised
+// one (KYR) or a hardware data breakpoint (0xA, the watchpoint), and as
+// engine data, instead of the standard one, the engine's internal object
+// filled by its own fill (the watchpoint's is a WatchPointInternalZMT).
+void fillBreakPointItemZMT(Vemo::DbgData::BreakPointItem* object);
+void fillBreakPointItemKYR(Vemo::DbgData::BreakPointItem* object);
+void fillWatchPointItem(Vemo::DbgData::BreakPointItem* object);
+void fillBreakPointInternalZMT(Vemo::DbgData::BreakPointInternalZMT* object);
+void fillBreakPointInternalKYR(Vemo::DbgData::BreakPointInternalKYR* object);
+void fillWatchPointInternalZMT(Vemo::DbgData::WatchPointInternalZMT* object);
+void fillWatchPointInternalKYR(Vemo::DbgData::WatchPointInternalKYR* object);
+
 // The fill functions by class row, so that the round trip finds the fill of
 // a class without knowing the class. A fill joins with one line next to its
 // definition: DD_SELFCHECK_FILL(DDID_Root, Root, fillRoot).
