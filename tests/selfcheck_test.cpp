@@ -111,6 +111,9 @@ TEST(SelfCheck, EveryCreatableClassAndKeyPassesAndSwitchesSelectGroups) {
   for (std::string line; std::getline(keyLines, line); keys.insert(line))
     EXPECT_EQ(line.rfind("Fullkey test for /Root", 0), 0u) << line;
   EXPECT_EQ(keys.size(), 55u); // one per node, each with its own key
+  // The whole catalogue: 71 creatable classes and 55 full keys.
+  EXPECT_EQ(creatableClasses().size(), 71u);
+  EXPECT_EQ(std::count(output.out.begin(), output.out.end(), '\n'), 126);
 
   const std::pair<int, int> switches[] = {{1, 0}, {0, 1}, {0, 0}};
   for (const auto& c : switches) {
