@@ -294,6 +294,9 @@ DOMDocument* LayoutReader::read(const std::string& text, std::string* problem) {
     *problem = m_setupProblem;
     return nullptr;
   }
+  // The parser owns every document it made until its pool is reset: release
+  // the previous read's, so that a reader used many times stays small.
+  m_parser->resetDocumentPool();
   FirstError firstError;
   ElementsOnly filter(kMaxDepth);
   const std::string tooDeep =
