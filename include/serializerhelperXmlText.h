@@ -1,0 +1,141 @@
+// SerializerHelperXmlText: the writer that produces the XML text of the
+// layout directly, without a DOM document.
+//
+// The text is, byte for byte, what writeXmlText makes of the document that
+// SerializerHelperDOM builds for the same calls: the same XML declaration,
+// attributes in the DOM's order (sorted by name), the same escaping ("&amp;"
+// "&lt;" "&quot;" "&#x9;" "&#xA;" "&#xD;"; ">" and "'" as they are; UTF-8 as
+// it is, an ill-formed UTF-8 part as U+FFFD) and, when indenting, the same
+// line breaks and indentation. Every operation answers what the DOM writer
+// answers, with one exception: a value, class name or sub key holding a
+// character that XML 1.0 cannot carry (a control character other than tab,
+// line feed and carriage return, U+FFFE or U+FFFF) answers false and is not
+// written, where the DOM writer takes it and writeXmlText then fails for the
+// whole document.
+//
+// Strings are taken up to their first zero byte, as the DOM writer's
+// transcoding takes them.
+#ifndef DBGDATA_SERIALIZERHELPERXMLTEXT_H
+#define DBGDATA_SERIALIZERHELPERXMLTEXT_H
+
+#include "serializerhelper.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace Vemo {
+namespace DbgData {
+
+class SerializerHelperXmlText : public ISerializerHelper {
+public:
+  // A writer holding an empty document: the document element
+  // "UserContentContainer" is the current node. With indent the text is
+  // pretty-printed as writeXmlText(..., true, ...) prints it.
+  explicit SerializerHelperXmlText(bool indent = false);
+  ~SerializerHelperXmlText() override;
+  SerializerHelperXmlText(const SerializerHelperXmlText&) = delete;
+  SerializerHelperXmlText& operator=(const SerializerHelperXmlText&) = delete;
+
+  // Attributes "ClassName" and then (when that worked) "SubKey" of the
+  // current element itself.
+  bool setClassNameAndSubKey(const std::string& className,
+                             const std::string& subKey) override;
+  // Values are attributes of the current element's first "values" child,
+  // or of the current element when it has none; a key written twice keeps
+  // the last value. False (and nothing written) when there is no current
+  // element, the key is no XML name or the value cannot be carried.
+  bool setBool(const std::string& key, bool value) override;
+  bool setInt(const std::string& key, int value) override;
+  bool setInt(const std::string& key, unsigned int value) override;
+  bool setInt(const std::string& key, long value) override;
+  bool setInt(const std::string& key, unsigned long value) override;
+  bool setInt(const std::string& key, long long value) override;
+  bool setInt(const std::string& key, unsigned long long value) override;
+  bool setFloat(const std::string& key, double value) override;
+  bool setString(const std::string& key, const std::string& value) override;
+  bool setAddress(const std::string& key, const Address& value) override;
+  bool setScope(const std::string& key, const Scope& value) override;
+  bool setDbgDataKey(const std::string& key, const DbgDataKey& value) override;
+  // Appends an element to the current one and makes it current; a
+  // "DataElement" also gets the empty children "attributes" and "values".
+  // False (and nothing happens) when name is no XML name or there is no
+  // current element.
+  bool pushSection(const std::string& name) override;
+  // Returns to the parent element; false (and nothing happens) when there
+  // is no current element. Popping the document element leaves none.
+  bool popSection() override;
+
+  // The document written so far, complete with its XML declaration and the
+  // document element closed. Valid until the next write or reset().
+  const std::string& getText() const;
+  // Starts a new, empty document.
+  void reset();
+
+private:
+  static const std::uint32_t None = 0xFFFFFFFFu;
+
+  // Elements are kept in document order (the order they are made in is a
+  // preorder walk of the tree), attributes as lists per element; names and
+  // escaped values live in one pool.
+  struct Element {
+    std::uint32_t name; // offset in m_pool
+    std::uint32_t nameSize;
+    std::uint32_t depth; // 0 for the document element
+    std::uint32_t firstAttribute;
+    std::uint32_t lastAttribute;
+    std::uint32_t attributeCount;
+    std::uint32_t values; // the first child named "values", or None
+    bool hasChildren;
+  };
+  struct Attribute {
+    std::uint32_t name;
+    std::uint32_t nameSize;
+    std::uint32_t value;
+    std::uint32_t valueSize;
+    std::uint32_t next;
+  };
+  // A pooled name: offset and size in m_pool, or size 0 for a text that
+  // is no XML name.
+  struct NameRef {
+    std::uint32_t offset;
+    std::uint32_t size;
+  };
+  struct NameCacheEntry {
+    std::string text;
+    NameRef name;
+  };
+  struct KeyIndex;
+
+  // The pooled form of a name (taken up to its first zero byte, ill-formed
+  // UTF-8 repaired), through a small cache; size 0 when it is no XML name.
+  NameRef poolName(const std::string& text);
+  std::uint32_t appendElement(std::uint32_t parent, NameRef name);
+  // Sets attribute key of element to value (a NUL-terminated text).
+  bool setAttribute(std::uint32_t element, const std::string& key,
+                    const char* value, std::size_t size);
+  bool setValue(const std::string& key, const char* value, std::size_t size);
+  bool setValue(const std::string& key, const std::string& value);
+  void writeText() const;
+
+  bool m_indent;
+  std::vector<Element> m_elements;
+  std::vector<Attribute> m_attributes;
+  std::string m_pool;
+  std::vector<std::uint32_t> m_focus;
+  std::vector<NameCacheEntry> m_nameCache;
+  // Key lookup for elements with many attributes, by element.
+  std::unordered_map<std::uint32_t, std::unique_ptr<KeyIndex>> m_keyIndexes;
+  mutable std::string m_text;
+  mutable bool m_textValid = false;
+  mutable std::vector<std::uint32_t> m_sorted;
+  mutable std::vector<std::uint32_t> m_openElements;
+};
+
+} // namespace DbgData
+} // namespace Vemo
+
+#endif
