@@ -55,6 +55,7 @@ private:
     bool made;
   };
   std::vector<Answer> m_answers;
+  std::size_t m_last = 0;
 };
 
 // Checks the objects below a document element: it must hold at least one
@@ -103,12 +104,27 @@ public:
     return Node();
   }
 
-  // The object the deserializer reads with holder as its current node.
+  // The object the deserializer reads with holder as its current node: in
+  // a section of the first kind found (DataList before DataListWC before
+  // DataElement), the first one of that kind.
   bool holder(Node holder) {
+    Node found[3] = {Node(), Node(), Node()};
+    for (Node child = m_tree.firstChild(holder); child;
+         child = m_tree.nextSibling(child)) {
+      if (!m_tree.isElement(child))
+        continue;
+      for (int section = LayoutDataList; section <= LayoutDataElement;
+           ++section) {
+        if (!found[section] && m_tree.nameIs(child, kSectionNames[section])) {
+          found[section] = child;
+          break;
+        }
+      }
+    }
     for (int section = LayoutDataList; section <= LayoutDataElement;
          ++section) {
-      if (Node found = firstNamed(holder, kSectionNames[section]))
-        return object(found, static_cast<LayoutSection>(section));
+      if (found[section])
+        return object(found[section], static_cast<LayoutSection>(section));
     }
     if (!m_tree.isElement(holder))
       return fail(holder, "text stands where an element holding a data "

@@ -79,42 +79,48 @@ private:
   static const std::uint32_t None = 0xFFFFFFFFu;
 
   // Elements are kept in document order (the order they are made in is a
-  // preorder walk of the tree), attributes as lists per element; names and
-  // escaped values live in one pool.
+  // preorder walk of the tree), attributes as lists per element. Names are
+  // interned: each distinct name is pooled once and known by its index;
+  // escaped values live in the same pool.
   struct Element {
-    std::uint32_t name; // offset in m_pool
-    std::uint32_t nameSize;
+    std::uint32_t name;
     std::uint32_t depth; // 0 for the document element
     std::uint32_t firstAttribute;
     std::uint32_t lastAttribute;
     std::uint32_t attributeCount;
-    std::uint32_t values; // the first child named "values", or None
+    std::uint32_t attributeBytes; // of all ' name="value"' texts
+    std::uint32_t values;         // the first child named "values", or None
     bool hasChildren;
   };
   struct Attribute {
     std::uint32_t name;
-    std::uint32_t nameSize;
-    std::uint32_t value;
+    std::uint32_t value; // offset in m_pool
     std::uint32_t valueSize;
     std::uint32_t next;
   };
-  // A pooled name: offset and size in m_pool, or size 0 for a text that
-  // is no XML name.
-  struct NameRef {
-    std::uint32_t offset;
-    std::uint32_t size;
+  // In the pool a name stands as "<name</name> name=\"", the three forms
+  // in which the text carries it.
+  struct Name {
+    std::uint32_t offset; // of the block in m_pool
+    std::uint32_t size;   // of the name
+    // The first eight bytes, ordered as the DOM orders names: two names
+    // whose keys differ are ordered by their keys.
+    std::uint64_t sortKey;
   };
+  // The last text looked up in one slot of the name cache: the text as
+  // given, and its name's index (None: no XML name).
   struct NameCacheEntry {
     std::string text;
-    NameRef name;
+    std::uint32_t name;
   };
   struct KeyIndex;
 
-  // The pooled form of a name (taken up to its first zero byte, ill-formed
-  // UTF-8 repaired), through a small cache; size 0 when it is no XML name.
-  NameRef poolName(const std::string& text);
-  std::uint32_t appendElement(std::uint32_t parent, NameRef name);
-  // Sets attribute key of element to value (a NUL-terminated text).
+  // The index of a name (taken up to its first zero byte, ill-formed UTF-8
+  // repaired), through a small cache; None when it is no XML name.
+  std::uint32_t internName(const std::string& text);
+  bool nameLess(std::uint32_t a, std::uint32_t b) const;
+  std::uint32_t appendElement(std::uint32_t parent, std::uint32_t name);
+  // Sets attribute key of element to value.
   bool setAttribute(std::uint32_t element, const std::string& key,
                     const char* value, std::size_t size);
   bool setValue(const std::string& key, const char* value, std::size_t size);
@@ -124,9 +130,12 @@ private:
   bool m_indent;
   std::vector<Element> m_elements;
   std::vector<Attribute> m_attributes;
+  std::vector<Name> m_names;
+  std::unordered_map<std::string, std::uint32_t> m_nameIndex;
   std::string m_pool;
   std::vector<std::uint32_t> m_focus;
   std::vector<NameCacheEntry> m_nameCache;
+  std::uint32_t m_valuesName = None;
   // Key lookup for elements with many attributes, by element.
   std::unordered_map<std::uint32_t, std::unique_ptr<KeyIndex>> m_keyIndexes;
   mutable std::string m_text;

@@ -65,26 +65,33 @@ pugi::xml_node nextCounted(pugi::xml_node node) {
   return skip(node.next_sibling());
 }
 
-bool nameIs(const char* nodeName, const char* name, std::size_t size) {
-  return std::strncmp(nodeName, name, size) == 0 && nodeName[size] == '\0';
+// nodeName (NUL-terminated) equals the size bytes of name (which hold no
+// zero byte): a shorter nodeName differs at its terminator at the latest.
+inline bool nameIs(const char* nodeName, const char* name, std::size_t size) {
+  for (std::size_t i = 0; i < size; ++i)
+    if (nodeName[i] != name[i])
+      return false;
+  return nodeName[size] == '\0';
 }
 
 // A name as the DOM reader looks it up: up to its first zero byte, with
 // ill-formed UTF-8 replaced as the transcoder replaces it.
 std::string_view lookupName(const std::string& name, std::string* scratch) {
-  const void* zero = std::memchr(name.data(), 0, name.size());
-  const std::size_t size =
-      zero ? static_cast<std::size_t>(static_cast<const char*>(zero) -
-                                      name.data())
-           : name.size();
-  for (std::size_t i = 0; i < size; ++i) {
-    if (static_cast<unsigned char>(name[i]) >= 0x80) {
-      scratch->clear();
-      appendRepairedUtf8(name.data(), size, scratch);
-      return *scratch;
-    }
-  }
-  return std::string_view(name.data(), size);
+  const char* const text = name.data();
+  const std::size_t size = name.size();
+  std::size_t i = 0;
+  while (i < size && static_cast<unsigned char>(text[i] - 1) < 0x7F)
+    ++i; // bytes 0x01 to 0x7F
+  if (i == size)
+    return std::string_view(text, size);
+  if (text[i] == '\0')
+    return std::string_view(text, i);
+  std::size_t end = i;
+  while (end < size && text[end] != '\0')
+    ++end;
+  scratch->clear();
+  appendRepairedUtf8(text, end, scratch);
+  return *scratch;
 }
 
 // The document for the layout check.
@@ -94,7 +101,7 @@ struct PugiTree {
   Node nextSibling(Node node) const { return nextCounted(node); }
   bool isElement(Node node) const { return node.type() == pugi::node_element; }
   bool nameIs(Node node, const char* name) const {
-    return std::strcmp(node.name(), name) == 0;
+    return DbgData::nameIs(node.name(), name, std::strlen(name));
   }
   const char* attribute(Node node, const char* name) const {
     return node.attribute(name).value();
@@ -116,8 +123,10 @@ struct DeserializerHelperXmlText::Document {
   pugi::xml_document xml;
   pugi::xml_node root;
   std::vector<pugi::xml_node> objects;
-  // The attributes of one "values" element with many of them, by name.
-  pugi::xml_node indexed;
+  // The attributes of the "values" element read last, as pairs of name and
+  // value; by name as well when there are many of them.
+  pugi::xml_node cached;
+  std::vector<std::pair<const char*, const char*>> attributes;
   std::unordered_map<std::string_view, const char*> index;
 };
 
@@ -297,23 +306,26 @@ const char* DeserializerHelperXmlText::valueText(const std::string& key) const {
   std::string scratch;
   const std::string_view wanted = lookupName(key, &scratch);
 
-  if (m_document->indexed != values) {
-    unsigned seen = 0;
-    for (pugi::xml_attribute attribute = values.first_attribute();
-         attribute && seen < kLinearKeySearch;
-         attribute = attribute.next_attribute(), ++seen)
-      if (nameIs(attribute.name(), wanted.data(), wanted.size()))
-        return attribute.value();
-    if (seen < kLinearKeySearch)
-      return "";
-    m_document->index.clear();
+  Document& document = *m_document;
+  if (document.cached != values) {
+    document.cached = values;
+    document.attributes.clear();
+    document.index.clear();
     for (pugi::xml_attribute attribute = values.first_attribute(); attribute;
          attribute = attribute.next_attribute())
-      m_document->index.emplace(attribute.name(), attribute.value());
-    m_document->indexed = values;
+      document.attributes.emplace_back(attribute.name(), attribute.value());
+    if (document.attributes.size() > kLinearKeySearch)
+      for (const auto& attribute : document.attributes)
+        document.index.emplace(attribute.first, attribute.second);
   }
-  const auto found = m_document->index.find(wanted);
-  return found == m_document->index.end() ? "" : found->second;
+  if (document.index.empty()) {
+    for (const auto& attribute : document.attributes)
+      if (nameIs(attribute.first, wanted.data(), wanted.size()))
+        return attribute.second;
+    return "";
+  }
+  const auto found = document.index.find(wanted);
+  return found == document.index.end() ? "" : found->second;
 }
 
 bool DeserializerHelperXmlText::getNameAndSubKey(std::string* className,

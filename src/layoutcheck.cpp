@@ -23,9 +23,17 @@ const char* const kInnerSectionNames[4] = {"EngineData", "Child", "Content",
 } // namespace LayoutCheckDetail
 
 bool LayoutFactoryProbe::makes(LayoutSection section, const char* className) {
-  for (const Answer& answer : m_answers)
-    if (answer.section == section && answer.className == className)
-      return answer.made;
+  // Most objects are of the class asked for last.
+  if (!m_answers.empty() && m_answers[m_last].section == section &&
+      m_answers[m_last].className == className)
+    return m_answers[m_last].made;
+  for (std::size_t i = 0; i < m_answers.size(); ++i) {
+    if (m_answers[i].section == section &&
+        m_answers[i].className == className) {
+      m_last = i;
+      return m_answers[i].made;
+    }
+  }
   // As the deserializer decides it: lists are of the generic list classes
   // only, and the object must be of its section's kind.
   static const char* const requiredClassNames[] = {"DataList", "DataListWC",
@@ -39,6 +47,7 @@ bool LayoutFactoryProbe::makes(LayoutSection section, const char* className) {
         st_ddmanager.factory(className, std::string()));
     made = object && object->isKindOf(kinds[section]());
   }
+  m_last = m_answers.size();
   m_answers.push_back(Answer{section, className, made});
   return made;
 }

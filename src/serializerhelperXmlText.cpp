@@ -33,8 +33,9 @@ struct EscapeTable {
 };
 const EscapeTable kEscape;
 
-// Appends value to out as the XML library's text writer writes an attribute
-// value; false for a character XML 1.0 cannot carry.
+// Appends value, up to its first zero byte, to out as the XML library's text
+// writer writes an attribute value; false for a character XML 1.0 cannot
+// carry.
 bool appendEscaped(const char* value, std::size_t size, std::string& out) {
   const Ptr begin = reinterpret_cast<Ptr>(value);
   const Ptr end = begin + size;
@@ -72,6 +73,8 @@ bool appendEscaped(const char* value, std::size_t size, std::string& out) {
       out.append("&#xD;", 5);
       ++p;
       continue;
+    case '\0':
+      return true; // the end of the text as the DOM takes it
     default:
       break;
     }
@@ -104,21 +107,28 @@ std::size_t textLength(const std::string& text) {
 // Order of names in the DOM's attribute map: by UTF-16 code units. That is
 // the order of UTF-8 bytes, except that characters beyond the basic plane
 // (lead bytes F0 to F4) come before U+E000 to U+FFFF (lead bytes EE, EF).
-bool nameLess(const char* a, std::size_t aSize, const char* b,
-              std::size_t bSize) {
-  const std::size_t common = std::min(aSize, bSize);
-  for (std::size_t i = 0; i < common; ++i) {
-    const unsigned char ca = static_cast<unsigned char>(a[i]);
-    const unsigned char cb = static_cast<unsigned char>(b[i]);
-    if (ca == cb)
-      continue;
-    if (ca >= 0xF0 && (cb == 0xEE || cb == 0xEF))
-      return true;
-    if (cb >= 0xF0 && (ca == 0xEE || ca == 0xEF))
-      return false;
-    return ca < cb;
+// Mapped through this table, the bytes at the first place where two names
+// differ (both lead bytes, or both continuation bytes) compare as UTF-16.
+struct SortBytes {
+  unsigned char order[256];
+  SortBytes() {
+    for (int b = 0; b < 256; ++b)
+      order[b] = static_cast<unsigned char>(b);
+    for (int b = 0xF0; b <= 0xF4; ++b)
+      order[b] = static_cast<unsigned char>(b - 0xF0 + 0xEE);
+    order[0xEE] = 0xF3;
+    order[0xEF] = 0xF4;
   }
-  return aSize < bSize;
+};
+const SortBytes kSortBytes;
+
+std::uint64_t sortKeyOf(const char* name, std::size_t size) {
+  std::uint64_t key = 0;
+  for (std::size_t i = 0; i < 8; ++i)
+    key =
+        (key << 8) |
+        (i < size ? kSortBytes.order[static_cast<unsigned char>(name[i])] : 0);
+  return key;
 }
 
 std::size_t cacheSlot(const char* text, std::size_t size) {
@@ -130,11 +140,23 @@ std::size_t cacheSlot(const char* text, std::size_t size) {
   return (size * 131 + first * 31 + middle * 7 + last) % kNameCacheSize;
 }
 
-// Writes into a buffer sized beforehand.
+// Writes into a buffer sized beforehand. Short pieces (most of them) are
+// copied with two fixed-size moves that may overlap, rather than a call.
 struct Cursor {
   char* p;
   void put(const char* text, std::size_t size) {
-    std::memcpy(p, text, size);
+    if (size >= 8 && size <= 16) {
+      std::memcpy(p, text, 8);
+      std::memcpy(p + size - 8, text + size - 8, 8);
+    } else if (size >= 4 && size < 8) {
+      std::memcpy(p, text, 4);
+      std::memcpy(p + size - 4, text + size - 4, 4);
+    } else if (size < 4) {
+      for (std::size_t i = 0; i < size; ++i)
+        p[i] = text[i];
+    } else {
+      std::memcpy(p, text, size);
+    }
     p += size;
   }
   void put(char c) { *p++ = c; }
@@ -147,7 +169,7 @@ struct Cursor {
 } // namespace
 
 struct SerializerHelperXmlText::KeyIndex {
-  std::unordered_map<std::string, std::uint32_t> attributes;
+  std::unordered_map<std::uint32_t, std::uint32_t> attributes; // by name
 };
 
 SerializerHelperXmlText::SerializerHelperXmlText(bool indent)
@@ -160,52 +182,81 @@ SerializerHelperXmlText::~SerializerHelperXmlText() = default;
 void SerializerHelperXmlText::reset() {
   m_elements.clear();
   m_attributes.clear();
+  m_names.clear();
+  m_nameIndex.clear();
   m_pool.clear();
   m_focus.clear();
-  m_nameCache.assign(kNameCacheSize, NameCacheEntry{std::string(), {0, 0}});
+  m_nameCache.assign(kNameCacheSize, NameCacheEntry{std::string(), None});
   m_keyIndexes.clear();
   m_text.clear();
   m_textValid = false;
-  const NameRef root = poolName("UserContentContainer");
+  static const std::string kValues("values");
+  static const std::string kRoot("UserContentContainer");
+  m_valuesName = internName(kValues);
   m_elements.push_back(
-      Element{root.offset, root.size, 0, None, None, 0, None, false});
+      Element{internName(kRoot), 0, None, None, 0, 0, None, false});
   m_focus.push_back(0);
 }
 
-SerializerHelperXmlText::NameRef
-SerializerHelperXmlText::poolName(const std::string& text) {
-  const std::size_t size = textLength(text);
-  NameCacheEntry& entry = m_nameCache[cacheSlot(text.data(), size)];
-  if (entry.text.size() == size &&
-      std::memcmp(entry.text.data(), text.data(), size) == 0)
+std::uint32_t SerializerHelperXmlText::internName(const std::string& text) {
+  NameCacheEntry& entry = m_nameCache[cacheSlot(text.data(), text.size())];
+  if (entry.text.size() == text.size() &&
+      std::memcmp(entry.text.data(), text.data(), text.size()) == 0)
     return entry.name;
 
-  NameRef name{0, 0};
-  const std::size_t mark = m_pool.size();
-  appendRepairedUtf8(text.data(), size, &m_pool);
-  if (isXmlName(m_pool.data() + mark, m_pool.size() - mark) &&
-      m_pool.size() <= std::numeric_limits<std::uint32_t>::max()) {
-    name.offset = static_cast<std::uint32_t>(mark);
-    name.size = static_cast<std::uint32_t>(m_pool.size() - mark);
-  } else {
-    m_pool.resize(mark);
+  std::string name;
+  appendRepairedUtf8(text.data(), textLength(text), &name);
+  std::uint32_t index = None;
+  if (isXmlName(name.data(), name.size())) {
+    const auto found = m_nameIndex.find(name);
+    if (found != m_nameIndex.end()) {
+      index = found->second;
+    } else if (m_pool.size() + 3 * name.size() + 7 <=
+               std::numeric_limits<std::uint32_t>::max()) {
+      index = static_cast<std::uint32_t>(m_names.size());
+      m_names.push_back(Name{static_cast<std::uint32_t>(m_pool.size()),
+                             static_cast<std::uint32_t>(name.size()),
+                             sortKeyOf(name.data(), name.size())});
+      m_pool += '<';
+      m_pool += name;
+      m_pool += "</";
+      m_pool += name;
+      m_pool += "> ";
+      m_pool += name;
+      m_pool += "=\"";
+      m_nameIndex.emplace(std::move(name), index);
+    }
   }
-  entry.text.assign(text.data(), size);
-  entry.name = name;
-  return name;
+  entry.text = text;
+  entry.name = index;
+  return index;
+}
+
+bool SerializerHelperXmlText::nameLess(std::uint32_t a, std::uint32_t b) const {
+  const Name& x = m_names[a];
+  const Name& y = m_names[b];
+  if (x.sortKey != y.sortKey)
+    return x.sortKey < y.sortKey;
+  const char* const pool = m_pool.data();
+  const std::size_t common = std::min(x.size, y.size);
+  for (std::size_t i = 8; i < common; ++i) {
+    const unsigned char cx = static_cast<unsigned char>(pool[x.offset + 1 + i]);
+    const unsigned char cy = static_cast<unsigned char>(pool[y.offset + 1 + i]);
+    if (cx != cy)
+      return kSortBytes.order[cx] < kSortBytes.order[cy];
+  }
+  return x.size < y.size;
 }
 
 std::uint32_t SerializerHelperXmlText::appendElement(std::uint32_t parent,
-                                                     NameRef name) {
+                                                     std::uint32_t name) {
   const std::uint32_t index = static_cast<std::uint32_t>(m_elements.size());
   Element& parentElement = m_elements[parent];
   parentElement.hasChildren = true;
-  if (parentElement.values == None && name.size == 6 &&
-      std::memcmp(m_pool.data() + name.offset, "values", 6) == 0)
+  if (parentElement.values == None && name == m_valuesName)
     parentElement.values = index;
   const std::uint32_t depth = parentElement.depth + 1;
-  m_elements.push_back(
-      Element{name.offset, name.size, depth, None, None, 0, None, false});
+  m_elements.push_back(Element{name, depth, None, None, 0, 0, None, false});
   return index;
 }
 
@@ -213,17 +264,16 @@ bool SerializerHelperXmlText::pushSection(const std::string& name) {
   if (m_focus.empty() ||
       m_elements.size() >= std::numeric_limits<std::uint32_t>::max() - 3)
     return false;
-  const NameRef element = poolName(name);
-  if (element.size == 0)
+  const std::uint32_t element = internName(name);
+  if (element == None)
     return false;
   m_textValid = false;
   const std::uint32_t index = appendElement(m_focus.back(), element);
   m_focus.push_back(index);
   if (name == "DataElement") {
     static const std::string kAttributes("attributes");
-    static const std::string kValues("values");
-    appendElement(index, poolName(kAttributes));
-    appendElement(index, poolName(kValues));
+    appendElement(index, internName(kAttributes));
+    appendElement(index, m_valuesName);
   }
   return true;
 }
@@ -239,8 +289,8 @@ bool SerializerHelperXmlText::setAttribute(std::uint32_t element,
                                            const std::string& key,
                                            const char* value,
                                            std::size_t size) {
-  const NameRef name = poolName(key);
-  if (name.size == 0)
+  const std::uint32_t name = internName(key);
+  if (name == None)
     return false;
   const std::size_t mark = m_pool.size();
   if (!appendEscaped(value, size, m_pool) ||
@@ -253,57 +303,58 @@ bool SerializerHelperXmlText::setAttribute(std::uint32_t element,
   const std::uint32_t valueOffset = static_cast<std::uint32_t>(mark);
   const std::uint32_t valueSize =
       static_cast<std::uint32_t>(m_pool.size() - mark);
-  const char* const nameText = m_pool.data() + name.offset;
 
   Element& target = m_elements[element];
-  std::uint32_t existing = None;
-  KeyIndex* index = nullptr;
   if (target.attributeCount < kLinearKeySearch) {
-    for (std::uint32_t a = target.firstAttribute; a != None;
-         a = m_attributes[a].next) {
-      const Attribute& attribute = m_attributes[a];
-      if (attribute.nameSize == name.size &&
-          (attribute.name == name.offset ||
-           std::memcmp(m_pool.data() + attribute.name, nameText, name.size) ==
-               0)) {
-        existing = a;
-        break;
+    // The list is kept in the DOM's order: the key is either there or its
+    // place is found on the way.
+    std::uint32_t before = None;
+    std::uint32_t a = target.firstAttribute;
+    for (; a != None; before = a, a = m_attributes[a].next) {
+      Attribute& attribute = m_attributes[a];
+      if (attribute.name == name) {
+        target.attributeBytes += valueSize - attribute.valueSize;
+        attribute.value = valueOffset;
+        attribute.valueSize = valueSize;
+        return true;
       }
+      if (nameLess(name, attribute.name))
+        break;
     }
+    const std::uint32_t added = static_cast<std::uint32_t>(m_attributes.size());
+    m_attributes.push_back(Attribute{name, valueOffset, valueSize, a});
+    if (before == None)
+      target.firstAttribute = added;
+    else
+      m_attributes[before].next = added;
+    if (a == None)
+      target.lastAttribute = added;
   } else {
+    // Many keys: found through an index, new ones appended; the text sorts
+    // them.
     std::unique_ptr<KeyIndex>& slot = m_keyIndexes[element];
     if (!slot) {
       slot.reset(new KeyIndex);
       for (std::uint32_t a = target.firstAttribute; a != None;
            a = m_attributes[a].next)
-        slot->attributes.emplace(
-            std::string(m_pool.data() + m_attributes[a].name,
-                        m_attributes[a].nameSize),
-            a);
+        slot->attributes.emplace(m_attributes[a].name, a);
     }
-    index = slot.get();
-    const auto found = index->attributes.find(std::string(nameText, name.size));
-    if (found != index->attributes.end())
-      existing = found->second;
-  }
-
-  if (existing != None) {
-    // The attribute keeps its place and takes the new value.
-    m_attributes[existing].value = valueOffset;
-    m_attributes[existing].valueSize = valueSize;
-    return true;
-  }
-  const std::uint32_t added = static_cast<std::uint32_t>(m_attributes.size());
-  m_attributes.push_back(
-      Attribute{name.offset, name.size, valueOffset, valueSize, None});
-  if (target.lastAttribute == None)
-    target.firstAttribute = added;
-  else
+    const auto found = slot->attributes.find(name);
+    if (found != slot->attributes.end()) {
+      Attribute& attribute = m_attributes[found->second];
+      target.attributeBytes += valueSize - attribute.valueSize;
+      attribute.value = valueOffset;
+      attribute.valueSize = valueSize;
+      return true;
+    }
+    const std::uint32_t added = static_cast<std::uint32_t>(m_attributes.size());
+    m_attributes.push_back(Attribute{name, valueOffset, valueSize, None});
     m_attributes[target.lastAttribute].next = added;
-  target.lastAttribute = added;
+    target.lastAttribute = added;
+    slot->attributes.emplace(name, added);
+  }
   ++target.attributeCount;
-  if (index)
-    index->attributes.emplace(std::string(nameText, name.size), added);
+  target.attributeBytes += 4 + m_names[name].size + valueSize;
   return true;
 }
 
@@ -318,7 +369,7 @@ bool SerializerHelperXmlText::setValue(const std::string& key,
 
 bool SerializerHelperXmlText::setValue(const std::string& key,
                                        const std::string& value) {
-  return setValue(key, value.data(), textLength(value));
+  return setValue(key, value.data(), value.size());
 }
 
 bool SerializerHelperXmlText::setClassNameAndSubKey(
@@ -328,9 +379,8 @@ bool SerializerHelperXmlText::setClassNameAndSubKey(
   static const std::string kClassName("ClassName");
   static const std::string kSubKey("SubKey");
   return setAttribute(m_focus.back(), kClassName, className.data(),
-                      textLength(className)) &&
-         setAttribute(m_focus.back(), kSubKey, subKey.data(),
-                      textLength(subKey));
+                      className.size()) &&
+         setAttribute(m_focus.back(), kSubKey, subKey.data(), subKey.size());
 }
 
 bool SerializerHelperXmlText::setBool(const std::string& key, bool value) {
@@ -419,11 +469,9 @@ void SerializerHelperXmlText::writeText() const {
   const std::size_t declaration = sizeof(kDeclaration) - 1;
   std::size_t total = declaration + (m_indent ? 2 : 0);
   for (const Element& element : m_elements) {
-    total += 1 + element.nameSize;
-    for (std::uint32_t a = element.firstAttribute; a != None;
-         a = m_attributes[a].next)
-      total += 4 + m_attributes[a].nameSize + m_attributes[a].valueSize;
-    total += element.hasChildren ? 4 + element.nameSize : 2;
+    const std::size_t nameSize = m_names[element.name].size;
+    total += 1 + nameSize + element.attributeBytes +
+             (element.hasChildren ? 4 + nameSize : 2);
     if (m_indent) {
       if (element.depth > 0)
         total += 1 + (element.depth == 1) + 2 * element.depth;
@@ -441,9 +489,15 @@ void SerializerHelperXmlText::writeText() const {
         out.put('\n');
       out.blanks(2 * element.depth);
     }
-    out.put("</", 2);
-    out.put(pool + element.name, element.nameSize);
-    out.put('>');
+    const Name& name = m_names[element.name];
+    out.put(pool + name.offset + 1 + name.size, name.size + 3); // "</name>"
+  };
+  const auto putAttribute = [&](const Attribute& attribute) {
+    const Name& name = m_names[attribute.name];
+    out.put(pool + name.offset + 2 * name.size + 4,
+            name.size + 3); // " name=\""
+    out.put(pool + attribute.value, attribute.valueSize);
+    out.put('"');
   };
 
   out.put(kDeclaration, declaration);
@@ -462,36 +516,25 @@ void SerializerHelperXmlText::writeText() const {
         out.put('\n');
       out.blanks(2 * element.depth);
     }
-    out.put('<');
-    out.put(pool + element.name, element.nameSize);
-    // Attributes in the DOM's order.
-    m_sorted.clear();
-    for (std::uint32_t a = element.firstAttribute; a != None;
-         a = m_attributes[a].next)
-      m_sorted.push_back(a);
-    if (m_sorted.size() > 1) {
-      const auto less = [&](std::uint32_t x, std::uint32_t y) {
-        const Attribute& ax = m_attributes[x];
-        const Attribute& ay = m_attributes[y];
-        return nameLess(pool + ax.name, ax.nameSize, pool + ay.name,
-                        ay.nameSize);
-      };
-      if (m_sorted.size() <= 16) {
-        for (std::size_t i = 1; i < m_sorted.size(); ++i)
-          for (std::size_t j = i; j > 0 && less(m_sorted[j], m_sorted[j - 1]);
-               --j)
-            std::swap(m_sorted[j], m_sorted[j - 1]);
-      } else {
-        std::sort(m_sorted.begin(), m_sorted.end(), less);
-      }
-    }
-    for (std::uint32_t a : m_sorted) {
-      const Attribute& attribute = m_attributes[a];
-      out.put(' ');
-      out.put(pool + attribute.name, attribute.nameSize);
-      out.put("=\"", 2);
-      out.put(pool + attribute.value, attribute.valueSize);
-      out.put('"');
+    const Name& name = m_names[element.name];
+    out.put(pool + name.offset, name.size + 1); // "<name"
+    // Attributes in the DOM's order: kept so in short lists, sorted here in
+    // long ones.
+    if (element.attributeCount < kLinearKeySearch) {
+      for (std::uint32_t a = element.firstAttribute; a != None;
+           a = m_attributes[a].next)
+        putAttribute(m_attributes[a]);
+    } else {
+      m_sorted.clear();
+      for (std::uint32_t a = element.firstAttribute; a != None;
+           a = m_attributes[a].next)
+        m_sorted.push_back(a);
+      std::sort(m_sorted.begin(), m_sorted.end(),
+                [&](std::uint32_t x, std::uint32_t y) {
+                  return nameLess(m_attributes[x].name, m_attributes[y].name);
+                });
+      for (std::uint32_t a : m_sorted)
+        putAttribute(m_attributes[a]);
     }
     if (element.hasChildren) {
       out.put('>');

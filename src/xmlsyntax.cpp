@@ -2,6 +2,11 @@
 
 #include <xercesc/util/XMLChar.hpp>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
+#include <algorithm>
 #include <cstring>
 #include <string_view>
 #include <unordered_set>
@@ -57,6 +62,41 @@ struct Tables {
 const Tables& tables() {
   static const Tables instance;
   return instance;
+}
+
+// The first byte from p on for which stop is set. stop must hold every
+// control byte and every non-ASCII byte besides the ASCII bytes a to d,
+// which are looked for sixteen at a time where the processor can.
+Ptr skipPlain(Ptr p, Ptr end, const bool* stop, char a, char b, char c,
+              char d) {
+#if defined(__SSE2__)
+  const __m128i ma = _mm_set1_epi8(a), mb = _mm_set1_epi8(b),
+                mc = _mm_set1_epi8(c), md = _mm_set1_epi8(d),
+                blank = _mm_set1_epi8(0x20);
+  while (end - p >= 16) {
+    const __m128i x = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+    // Signed, bytes from 0x80 on are below 0x20 too.
+    const __m128i found = _mm_or_si128(
+        _mm_or_si128(
+            _mm_or_si128(_mm_cmpeq_epi8(x, ma), _mm_cmpeq_epi8(x, mb)),
+            _mm_or_si128(_mm_cmpeq_epi8(x, mc), _mm_cmpeq_epi8(x, md))),
+        _mm_cmplt_epi8(x, blank));
+    const int mask = _mm_movemask_epi8(found);
+    if (mask == 0) {
+      p += 16;
+      continue;
+    }
+    p += __builtin_ctz(static_cast<unsigned>(mask));
+    if (stop[*p])
+      return p;
+    ++p; // tab, line feed or carriage return
+  }
+#else
+  (void)a, (void)b, (void)c, (void)d;
+#endif
+  while (p < end && !stop[*p])
+    ++p;
+  return p;
 }
 
 bool isSpace(unsigned char c) {
@@ -116,7 +156,9 @@ private:
   }
 
   bool character(const char* where);
-  bool name(Name* out, const char* what);
+  // A name at m_p. Processing instruction targets take characters of the
+  // basic plane only, as the XML library's parser reads them.
+  bool name(Name* out, const char* what, bool basicPlaneOnly = false);
   bool reference();
   bool quotedValue(Name* out, const char* what);
   bool xmlDeclaration();
@@ -154,7 +196,7 @@ bool Checker::character(const char* where) {
   return true;
 }
 
-bool Checker::name(Name* out, const char* what) {
+bool Checker::name(Name* out, const char* what, bool basicPlaneOnly) {
   const Ptr start = m_p;
   bool first = true;
   while (m_p < m_end) {
@@ -168,7 +210,7 @@ bool Checker::name(Name* out, const char* what) {
       const int length = readUtf8(m_p, m_end, &c);
       if (length < 0)
         return fail(m_p, std::string("ill-formed UTF-8 in ") + what);
-      if (!isNameCharacter(c, first))
+      if (!isNameCharacter(c, first) || (basicPlaneOnly && c >= 0x10000))
         break;
       m_p += length;
     }
@@ -239,8 +281,7 @@ bool Checker::quotedValue(Name* out, const char* what) {
     return fail(m_p, std::string("expected a quoted ") + what);
   out->start = ++m_p;
   for (;;) {
-    while (m_p < m_end && !m_tables.valueStop[*m_p])
-      ++m_p;
+    m_p = skipPlain(m_p, m_end, m_tables.valueStop, '<', '&', '"', '\'');
     if (m_p >= m_end)
       return failAtEnd(what);
     const unsigned char c = *m_p;
@@ -358,7 +399,7 @@ bool Checker::processingInstruction() {
   const Ptr at = m_p;
   m_p += 2;
   Name target;
-  if (!name(&target, "a processing instruction target"))
+  if (!name(&target, "a processing instruction target", true))
     return false;
   if (target.size == 3 && (target.start[0] | 0x20) == 'x' &&
       (target.start[1] | 0x20) == 'm' && (target.start[2] | 0x20) == 'l')
@@ -496,25 +537,27 @@ bool Checker::endTag() {
 // Everything inside the document element, up to its end tag.
 bool Checker::content() {
   while (!m_open.empty()) {
-    while (m_p < m_end && !m_tables.contentStop[*m_p])
-      ++m_p;
+    m_p = skipPlain(m_p, m_end, m_tables.contentStop, '<', '&', ']', ']');
     if (m_p >= m_end)
       return fail(m_end, "the text ends before the element \"" +
                              m_open.back().text() + "\" is closed");
     const unsigned char c = *m_p;
     if (c == '<') {
-      if (startsWith("</")) {
+      const unsigned char next = m_end - m_p >= 2 ? m_p[1] : 0;
+      if (next == '/') {
         if (!endTag())
           return false;
-      } else if (startsWith("<!--")) {
-        if (!comment())
-          return false;
-      } else if (startsWith("<![CDATA[")) {
-        if (!cdataSection())
-          return false;
-      } else if (startsWith("<!")) {
-        return fail(m_p, "unexpected \"<!\" in element content");
-      } else if (startsWith("<?")) {
+      } else if (next == '!') {
+        if (startsWith("<!--")) {
+          if (!comment())
+            return false;
+        } else if (startsWith("<![CDATA[")) {
+          if (!cdataSection())
+            return false;
+        } else {
+          return fail(m_p, "unexpected \"<!\" in element content");
+        }
+      } else if (next == '?') {
         if (!processingInstruction())
           return false;
       } else {
@@ -551,9 +594,15 @@ bool Checker::misc(bool* consumed) {
 }
 
 bool Checker::run() {
+  // Byte order marks and the starts of "<?xml" in the encodings that XML
+  // readers recognise without a declaration (UTF-16, UTF-32, EBCDIC): a
+  // zero byte never starts UTF-8 text that is XML.
   if (m_end - m_p >= 2 && ((m_p[0] == 0xFE && m_p[1] == 0xFF) ||
                            (m_p[0] == 0xFF && m_p[1] == 0xFE)))
     return refuse(m_p, "UTF-16 text is not accepted: the text must be UTF-8");
+  if (std::memchr(m_p, 0, std::min<std::size_t>(4, m_end - m_p)) ||
+      startsWith("\x4C\x6F\xA7\x94"))
+    return refuse(m_p, "text in another encoding than UTF-8 is not accepted");
   if (startsWith("\xEF\xBB\xBF"))
     m_p += 3;
   if (startsWith("<?xml") &&
