@@ -48,7 +48,9 @@ public:
   // document element is the current node, so that
   // getDeserializer()->deserialize(this) reads the first object below it.
   // On failure answers false, holds no document and fills *error (when
-  // given) with the first problem.
+  // given) with the first problem; there is then no current node, and a
+  // deserializer handed the reader would find no object and stop the
+  // process, so objects are read only after parse() answered true.
   bool parse(const std::string& text, XmlTextError* error = nullptr);
 
   // The number of object sections ("DataElement", "DataList" and

@@ -461,6 +461,22 @@ TEST(XmlTextReader, AnswersEveryReadAsTheDomReader) {
   EXPECT_NE(got.find("\xc3\xa9 1 \xe2\x82\xac<\xf0\x9f\x98\x80\n"),
             std::string::npos);
 
+  // A "values" element with more keys than the reader searches one by one.
+  std::string many = "<UserContentContainer><values";
+  for (int i = 0; i < 50; ++i)
+    many +=
+        " k" + std::to_string(i * 7 % 50) + "=\"" + std::to_string(i) + "\"";
+  many += "/><DataElement ClassName=\"CurDbgPrompt\" SubKey=\"p\"/>"
+          "</UserContentContainer>";
+  XmlTextDocument manyParsed;
+  ASSERT_TRUE(manyParsed.parse(many) && fastReader.parse(many));
+  DeserializerHelperDOM manyDom(manyParsed.getDocumentElement());
+  for (int i = 0; i <= 50; ++i) {
+    const std::string key = "k" + std::to_string(i);
+    EXPECT_EQ(readLine<int>(fastReader, key, -1),
+              readLine<int>(manyDom, key, -1));
+  }
+
   // Without a document every read answers false.
   DeserializerHelperXmlText empty;
   std::string text = "old";
@@ -562,6 +578,36 @@ TEST(XmlTextReader, RefusesBadTextWithOneErrorNamingLineAndColumn) {
     EXPECT_EQ(reader.getObjectCount(), 0u);
     EXPECT_FALSE(reader.pushSection("DataElement"));
   }
+}
+
+TEST(XmlTextReader, ReadsUpToTheDeepestNestingAndRefusesOneLevelMore) {
+  // A chain of objects, each the engine data of the one before: object k
+  // stands at depth 2k, its "values" at 2k + 1.
+  const auto chain = [](int objects) {
+    std::unique_ptr<DataElement> first;
+    DataElement* last = nullptr;
+    for (int i = 0; i < objects; ++i) {
+      auto* object = static_cast<DataElement*>(
+          st_ddmanager.factory("CurDbgPrompt", std::to_string(i)));
+      if (last)
+        last->setEngineData(object);
+      else
+        first.reset(object);
+      last = object;
+    }
+    return first;
+  };
+  const int deepest = (kMaxLayoutDepth - 1) / 2;
+  const std::unique_ptr<DataElement> fits = chain(deepest);
+  const Object copy = readFast(fastText({fits.get()}, true));
+  ASSERT_NE(copy, nullptr);
+  EXPECT_EQ(fastText({copy.get()}, false), fastText({fits.get()}, false));
+
+  const std::unique_ptr<DataElement> tooDeep = chain(deepest + 1);
+  XmlTextError error;
+  EXPECT_FALSE(DeserializerHelperXmlText().parse(
+      fastText({tooDeep.get()}, false), &error));
+  EXPECT_NE(error.message.find("nested deeper than"), std::string::npos);
 }
 
 TEST(XmlTextReaderDeathTest, RefusedLayoutsAreTheOnesThatStopTheDomPath) {
