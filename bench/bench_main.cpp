@@ -109,6 +109,11 @@ struct Row {
   double target;
   double libraryPer = 1;
   double baselinePer = 1;
+  // When set, each side is divided by its own time for these cases first:
+  // ratio = (library / libraryBase) / (baseline / baselineBase), how much
+  // more the library's time grows than the baseline's.
+  std::string libraryBase = {};
+  std::string baselineBase = {};
 };
 
 std::string timeText(double ns) {
@@ -172,6 +177,31 @@ std::vector<Row> ratioRows() {
   // The same for the baselines: how much of the growth the DOM itself brings.
   addScaling(rows, "  direct DOM write 1e5/1e3", "DomWrite_Direct", 0);
   addScaling(rows, "  direct DOM read 1e5/1e3", "DomRead_Direct", 0);
+
+  // XML text without a DOM, per workload: against the DOM path (target: 5
+  // times faster), and against the floors.
+  for (const std::string& name : xmlWorkloadNames()) {
+    const std::string arg = "/" + name;
+    rows.push_back({"XML write fast/DOM " + name, "XmlWrite_Fast" + arg,
+                    "XmlWrite_Dom" + arg, 0.2});
+    rows.push_back({"XML write fast/dump " + name, "XmlWrite_Fast" + arg,
+                    "XmlWrite_TextDump" + arg, 1.5});
+    rows.push_back({"XML read fast/DOM " + name, "XmlRead_Fast" + arg,
+                    "XmlRead_Dom" + arg, 0.2});
+    rows.push_back({"XML read fast/pugixml " + name, "XmlRead_Fast" + arg,
+                    "XmlRead_Pugixml" + arg, 0});
+  }
+  // Per-object cost from 1e3 to 1e5 registers: the growth of each fast
+  // path's time against the growth of its floor's.
+  const std::string small = "/" + sizeName(kSmallN);
+  const std::string large = "/" + sizeName(kLargeN);
+  const double per = double(kLargeN) / double(kSmallN);
+  rows.push_back({"Scaling XML write vs dump's", "XmlWrite_Fast" + large,
+                  "XmlWrite_TextDump" + large, 1.3, per, per,
+                  "XmlWrite_Fast" + small, "XmlWrite_TextDump" + small});
+  rows.push_back({"Scaling XML read vs pugixml's", "XmlRead_Fast" + large,
+                  "XmlRead_Pugixml" + large, 1.3, per, per,
+                  "XmlRead_Fast" + small, "XmlRead_Pugixml" + small});
   return rows;
 }
 
@@ -181,7 +211,12 @@ void printRatios(const SummaryReporter& results) {
   for (const Row& row : ratioRows()) {
     const Result* library = results.find(row.library);
     const Result* baseline = results.find(row.baseline);
-    if (!library || !baseline) {
+    const Result* libraryBase =
+        row.libraryBase.empty() ? nullptr : results.find(row.libraryBase);
+    const Result* baselineBase =
+        row.baselineBase.empty() ? nullptr : results.find(row.baselineBase);
+    const bool scaled = !row.libraryBase.empty();
+    if (!library || !baseline || (scaled && (!libraryBase || !baselineBase))) {
       if (results.failed(row.library) || results.failed(row.baseline))
         std::printf("%-32s %12s %12s %7s %7s  %s\n", row.label.c_str(), "-",
                     "-", "-", "-", "FAILED");
@@ -189,7 +224,9 @@ void printRatios(const SummaryReporter& results) {
     }
     const double lib = library->nanoseconds() / row.libraryPer;
     const double base = baseline->nanoseconds() / row.baselinePer;
-    const double ratio = lib / base;
+    double ratio = lib / base;
+    if (scaled)
+      ratio /= libraryBase->nanoseconds() / baselineBase->nanoseconds();
     char target[16] = "-";
     const char* verdict = "report";
     if (row.target > 0) {
@@ -207,7 +244,9 @@ void printPerObject(const SummaryReporter& results) {
   std::printf("\n%-32s %12s %12s\n", "Per object (all data objects)", "Time",
               "ns/object");
   for (const char* name : {"Clone", "Compare", "DomWrite_Library",
-                           "DomRead_Library", "TextDump_Library"}) {
+                           "DomRead_Library", "TextDump_Library",
+                           "XmlWrite_Fast", "XmlWrite_Dom", "XmlWrite_TextDump",
+                           "XmlRead_Fast", "XmlRead_Dom", "XmlRead_Pugixml"}) {
     for (long n : {kSmallN, kMediumN, kLargeN}) {
       const std::string full = std::string(name) + "/" + sizeName(n);
       const Result* result = results.find(full);
@@ -235,6 +274,38 @@ void printMemory(const SummaryReporter& results) {
                   counter.second);
 }
 
+// Heap per object of the XML text path against the DOM path, in the style
+// of the ratio table (target: a quarter).
+void printXmlHeap(const SummaryReporter& results) {
+  bool header = false;
+  for (const std::string& name : xmlWorkloadNames()) {
+    const Result* found = results.findPrefix("XmlHeap/" + name + "/");
+    if (!found)
+      continue;
+    if (!header) {
+      std::printf("\nHeap per data object held by each XML path (mallinfo2 "
+                  "deltas):\n%-32s %12s %12s %7s %7s  %s\n",
+                  "Case", "Fast", "DOM", "Ratio", "Target", "Result");
+      header = true;
+    }
+    const auto& counters = found->counters;
+    for (const char* side : {"write", "read"}) {
+      const double fast = counters.at(std::string("fast ") + side);
+      const double dom = counters.at(std::string("DOM ") + side);
+      const double ratio = dom > 0 ? fast / dom : 0;
+      char fastText[32], domText[32];
+      std::snprintf(fastText, sizeof fastText, "%9.0f B", fast);
+      std::snprintf(domText, sizeof domText, "%9.0f B", dom);
+      std::printf("%-32s %12s %12s %7.3f %7.2f  %s\n",
+                  ("XML " + std::string(side) + " heap " + name).c_str(),
+                  fastText, domText, ratio, 0.25,
+                  ratio <= 0.25 ? "PASS" : "MISS");
+    }
+    std::printf("%-32s %10.0f B\n", ("  XML text " + name).c_str(),
+                counters.at("text"));
+  }
+}
+
 } // namespace
 
 } // namespace Bench
@@ -260,6 +331,7 @@ int main(int argc, char** argv) {
   Bench::printRatios(reporter);
   Bench::printPerObject(reporter);
   Bench::printMemory(reporter);
+  Bench::printXmlHeap(reporter);
   benchmark::Shutdown();
   return 0;
 }

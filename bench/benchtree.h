@@ -17,6 +17,7 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace Bench {
 
@@ -67,6 +68,11 @@ void withMinimum(benchmark::internal::Benchmark* b);
 // The registered sizes of a scaling case (kSmallN, kMediumN, kLargeN), in
 // microseconds, with the statistic of withMinimum.
 void scalingSizes(benchmark::internal::Benchmark* b);
+
+// The workloads of the XML text cases (xmltext_bench.cpp), by the argument
+// their cases carry: "1000", "10000" and "100000" for the register trees,
+// then any heavy class added to the list.
+std::vector<std::string> xmlWorkloadNames();
 
 } // namespace Bench
 

@@ -45,9 +45,11 @@ extern int g_runSerializationTest;
 extern int g_runFullKeyTest;
 // Writer and reader of the round trip; not owned by the library. When they
 // are null, runSelfCheck() uses a SerializerHelperDOM and a
-// DeserializerHelperDOM of its own for its duration. The round trip passes
-// the written DOM element from one to the other, so they must be (or derive
-// from) those two classes.
+// DeserializerHelperDOM of its own for its duration. The writer must be (or
+// derive from) SerializerHelperDOM or SerializerHelperXmlText, the reader
+// DeserializerHelperDOM or DeserializerHelperXmlText: the round trip passes
+// the written DOM element from the DOM writer to the DOM reader, and XML
+// text in every other pairing.
 extern Vemo::DbgData::ISerializerHelper* g_serHlp;
 extern Vemo::DbgData::IDeserializerHelper* g_desHlp;
 

@@ -4,7 +4,9 @@
 
 #include "deserializer.h"
 #include "deserializerhelperDOM.h"
+#include "deserializerhelperXmlText.h"
 #include "serializerhelperDOM.h"
+#include "serializerhelperXmlText.h"
 #include "xmltext.h"
 
 #include <xercesc/dom/DOM.hpp>
@@ -53,6 +55,49 @@ bool holdsObjectSection(const xercesc::DOMElement* parent) {
       return true;
   }
   return false;
+}
+
+// Reads the object written by one of the XML writers with g_desHlp: a DOM
+// reader takes the DOM writer's document element directly, or the text of
+// the text writer parsed into a DOM document; the text reader takes the
+// text, or the DOM writer's document written as text. False when the reader
+// is none of the two or the object cannot be read.
+bool readBack(SerializerHelperDOM* domWriter,
+              SerializerHelperXmlText* textWriter,
+              std::unique_ptr<DebuggerData>* copy) {
+  auto* domReader = dynamic_cast<DeserializerHelperDOM*>(g_desHlp);
+  auto* textReader = dynamic_cast<DeserializerHelperXmlText*>(g_desHlp);
+  std::string text;
+  if (textWriter)
+    text = textWriter->getText();
+  else if (textReader && !writeXmlText(domWriter->getDocument(), false, &text))
+    return false;
+
+  if (textReader) {
+    if (!textReader->parse(text))
+      return false;
+    copy->reset(getDeserializer()->deserialize(textReader));
+    return *copy != nullptr;
+  }
+  if (!domReader)
+    return false;
+  XmlTextDocument parsed;
+  const xercesc::DOMDocument* document = nullptr;
+  if (textWriter) {
+    if (!parsed.parse(text))
+      return false;
+    document = parsed.getDocument();
+  } else {
+    document = domWriter->getDocument();
+  }
+  const xercesc::DOMElement* container =
+      document ? document->getDocumentElement() : nullptr;
+  if (!holdsObjectSection(container))
+    return false;
+  domReader->resetDOM(container);
+  copy->reset(getDeserializer()->deserialize(domReader));
+  domReader->cleanupDOM();
+  return *copy != nullptr;
 }
 
 std::size_t childCount(DebuggerData& list) {
@@ -126,33 +171,27 @@ bool runSerializationRoundTrip(const std::string& className) {
   fillSample(object.get(), className);
 
   // 3. Write into a fresh document.
-  auto* writer = dynamic_cast<SerializerHelperDOM*>(g_serHlp);
-  if (writer)
-    writer->resetDOM();
-  if (!writer || !object->serialize(writer)) {
+  auto* domWriter = dynamic_cast<SerializerHelperDOM*>(g_serHlp);
+  auto* textWriter = dynamic_cast<SerializerHelperXmlText*>(g_serHlp);
+  if (domWriter)
+    domWriter->resetDOM();
+  else if (textWriter)
+    textWriter->reset();
+  if ((!domWriter && !textWriter) || !object->serialize(g_serHlp)) {
     error_serialization(className);
     return false;
   }
 
   // 4. Read back. The deserializer reads the object section found among the
   // children of the reader's current node: the document element.
-  auto* reader = dynamic_cast<DeserializerHelperDOM*>(g_desHlp);
-  const xercesc::DOMDocument* document = writer->getDocument();
-  const xercesc::DOMElement* container =
-      document ? document->getDocumentElement() : nullptr;
-  if (!reader || !holdsObjectSection(container)) {
-    error_deserialization(className);
-    return false;
-  }
-  reader->resetDOM(container);
   std::unique_ptr<DebuggerData> copy;
+  bool read;
   {
     // The sample plug-in item's plug-in data is the self-check's own.
     PlugInDataFactoryScope plugInData(getSelfCheckPlugInDataFactory());
-    copy.reset(getDeserializer()->deserialize(reader));
+    read = readBack(domWriter, textWriter, &copy);
   }
-  reader->cleanupDOM();
-  if (!copy) {
+  if (!read) {
     error_deserialization(className);
     return false;
   }

@@ -3,15 +3,13 @@
 #include "dbgdatakey.h"
 #include "ddfatalerror.h"
 #include "serializerhelperDOM.h"
+#include "valuetext.h"
 #include "valuetypes.h"
 
 #include <xercesc/dom/DOM.hpp>
 
 #include <cstdlib>
 #include <iostream>
-#include <limits>
-#include <sstream>
-#include <type_traits>
 
 using namespace xercesc;
 
@@ -27,39 +25,6 @@ constexpr XmlLiteral kValues("values");
 void requireOutput(const void* out, unsigned long line) {
   if (!out)
     throwDDFatalError("Bad Pointer!", kSourceName, line);
-}
-
-// Reads text as the standard input stream does with its hexadecimal flag
-// raised on top of the decimal one, which keeps the base decimal; text that
-// does not parse (or overflows) leaves *out unchanged. Plain decimal text
-// short enough not to overflow is converted directly, with the stream's
-// result; everything else goes through the stream.
-template <class Int> void parseInteger(const std::string& text, Int* out) {
-  const char* digit = text.c_str();
-  const char* const end = digit + text.size();
-  const bool negative =
-      std::is_signed<Int>::value && digit != end && *digit == '-';
-  if (negative)
-    ++digit;
-  const std::size_t count = static_cast<std::size_t>(end - digit);
-  if (count > 0 && count <= 18) {
-    long long magnitude = 0;
-    for (; digit != end && *digit >= '0' && *digit <= '9'; ++digit)
-      magnitude = magnitude * 10 + (*digit - '0');
-    const long long value = negative ? -magnitude : magnitude;
-    if (digit == end &&
-        value >= static_cast<long long>(std::numeric_limits<Int>::min()) &&
-        (value < 0 || static_cast<unsigned long long>(value) <=
-                          std::numeric_limits<Int>::max())) {
-      *out = static_cast<Int>(value);
-      return;
-    }
-  }
-  std::istringstream stream(text);
-  stream.setf(std::ios_base::hex);
-  Int value;
-  if (stream >> value)
-    *out = value;
 }
 
 } // namespace
@@ -218,7 +183,7 @@ bool DeserializerHelperDOM::getIntValue(const std::string& key,
     *out = 0;
     return false;
   }
-  parseInteger(text, out);
+  readIntegerText(text, out);
   return true;
 }
 

@@ -60,8 +60,10 @@ protected:
     std::ofstream(m_dir / name, std::ios::binary) << text;
     return m_dir / name;
   }
-  ToolRun dump(const std::string& text) {
-    return run("dump '" + file("in.xml", text).string() + "'");
+  // dump of text, through the text path or (dom) the DOM path.
+  ToolRun dump(const std::string& text, bool dom = false) {
+    return run(std::string("dump ") + (dom ? "--dom '" : "'") +
+               file("in.xml", text).string() + "'");
   }
 
   // Runs the tool with arguments (already quoted for the shell), standard
@@ -89,12 +91,14 @@ protected:
 } // namespace
 
 TEST_F(ToolTest, SelfCheckPassesAndUsageErrorsExitWithTwo) {
-  const ToolRun check = run("selfcheck");
-  EXPECT_EQ(check.status, 0);
-  EXPECT_EQ(check.err, "");
-  EXPECT_GT(lineCount(check.out), 55u);
-  for (const char* wrong :
-       {"", "frobnicate", "selfcheck extra", "key", "dump a b"})
+  for (const char* command : {"selfcheck", "selfcheck --dom"}) {
+    const ToolRun check = run(command);
+    EXPECT_EQ(check.status, 0) << command;
+    EXPECT_EQ(check.err, "");
+    EXPECT_GT(lineCount(check.out), 55u);
+  }
+  for (const char* wrong : {"", "frobnicate", "selfcheck extra", "key",
+                            "dump a b", "dump --dom a b"})
     EXPECT_EQ(run(wrong).status, 2) << wrong;
   for (const char* help :
        {"--help", "-h", "selfcheck --help", "dump -h", "key --help"}) {
@@ -126,13 +130,18 @@ TEST_F(ToolTest, DumpOfLibraryWrittenXmlMatchesTheDirectDump) {
   }
   ASSERT_NE(indented.find("\n  <"), std::string::npos);
 
-  const ToolRun fromFlat = dump(flat);
-  EXPECT_EQ(fromFlat.status, 0) << fromFlat.err;
-  EXPECT_EQ(fromFlat.out, direct);
-  const ToolRun fromStdin = run("dump -", file("indented.xml", indented));
-  EXPECT_EQ(fromStdin.status, 0) << fromStdin.err;
-  EXPECT_EQ(fromStdin.out, direct);
-  EXPECT_EQ(fromStdin.err, "");
+  for (const char* option : {"", "--dom "}) {
+    SCOPED_TRACE(option);
+    const ToolRun fromFlat = run(std::string("dump ") + option + "'" +
+                                 file("flat.xml", flat).string() + "'");
+    EXPECT_EQ(fromFlat.status, 0) << fromFlat.err;
+    EXPECT_EQ(fromFlat.out, direct);
+    const ToolRun fromStdin = run(std::string("dump ") + option + "-",
+                                  file("indented.xml", indented));
+    EXPECT_EQ(fromStdin.status, 0) << fromStdin.err;
+    EXPECT_EQ(fromStdin.out, direct);
+    EXPECT_EQ(fromStdin.err, "");
+  }
 }
 
 TEST_F(ToolTest, MalformedInputGivesOneLineAndExitTwo) {
@@ -142,40 +151,61 @@ TEST_F(ToolTest, MalformedInputGivesOneLineAndExitTwo) {
   const auto container = [](const std::string& inner) {
     return "<UserContentContainer>" + inner + "</UserContentContainer>";
   };
-  // Each malformed text, and what its one line of diagnostics says.
-  const std::pair<std::string, const char*> cases[] = {
-      {"just text", "1:1: not XML"},
-      {"<UserContentContainer>\n<DataElement", "2:"},
-      {"<Objects/>", "document element is \"Objects\""},
-      {container("<Child>" + prompt + "</Child>"), "not the layout"},
+  // Each malformed text, and what its one line of diagnostics says through
+  // the text path and through the DOM path.
+  struct Case {
+    std::string text;
+    const char* fast;
+    const char* dom;
+  };
+  const Case cases[] = {
+      {"just text", "1:1: not XML", "1:1: not XML"},
+      {"<UserContentContainer>\n<DataElement", "2:13: not XML",
+       "2:13: not XML"},
+      {"<Objects/>", "1:1: not the layout of serialized data",
+       "document element is \"Objects\""},
+      {"<Objects>" + prompt + "</Objects>", "document element is \"Objects\"",
+       "document element is \"Objects\""},
+      {container(""), "holds no data object", "holds no data object"},
+      {container("<Child>" + prompt + "</Child>"), "holds no data object",
+       "holds no data object (at /UserContentContainer)"},
       {container("<DataElement SubKey=\"s\"><attributes/><values/>"
                  "</DataElement>"),
-       "'ClassName'"},
+       "object 1 (class \"\") cannot be made",
+       "object 1 (class \"\") cannot be made"},
       {container("<DataList ClassName=\"DataList\" SubKey=\"l\"><List>x"
                  "</List></DataList>"),
-       "not the layout"},
+       "1:71: not the layout of serialized data: text stands where",
+       "text stands where an element holding a data object must be (at "
+       "/UserContentContainer/DataList/List/text())"},
       {container("<DataList ClassName=\"DataList\" SubKey=\"l\"><List>"
                  "<Child/></List></DataList>"),
-       "not the layout"},
+       "1:71: not the layout",
+       "(at /UserContentContainer/DataList/List/Child)"},
       {container("<DataElement ClassName=\"Root\" SubKey=\"r\"><attributes/>"
                  "<values/><EngineData/></DataElement>"),
-       "not the layout"},
+       "1:86: not the layout", "not the layout"},
       {container("<DataList ClassName=\"Root\" SubKey=\"l\"><List/>"
                  "</DataList>"),
-       "'ClassName'"},
+       "object 1 (class \"Root\") cannot be made",
+       "object 1 (class \"Root\") cannot be made"},
       {container(prompt + "<DataElement ClassName=\"Nope\" SubKey=\"n\">"
                           "<attributes/><values/></DataElement>"),
+       "object 2 (class \"Nope\") cannot be made",
        "object 2 (class \"Nope\") cannot be made"},
       {"<!DOCTYPE UserContentContainer [<!ENTITY e \"e\">]>" + container(""),
-       "not XML"},
+       "1:1: a document type declaration is not accepted", "not XML"},
   };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.first);
-    const ToolRun result = dump(c.first);
-    EXPECT_EQ(result.status, 2);
-    EXPECT_EQ(result.out, "");
-    EXPECT_EQ(lineCount(result.err), 1u) << result.err;
-    EXPECT_NE(result.err.find(c.second), std::string::npos) << result.err;
+  for (const Case& c : cases) {
+    for (bool dom : {false, true}) {
+      SCOPED_TRACE(c.text + (dom ? " --dom" : ""));
+      const ToolRun result = dump(c.text, dom);
+      EXPECT_EQ(result.status, 2);
+      EXPECT_EQ(result.out, "");
+      EXPECT_EQ(lineCount(result.err), 1u) << result.err;
+      EXPECT_NE(result.err.find(dom ? c.dom : c.fast), std::string::npos)
+          << result.err;
+    }
   }
 
   const ToolRun missing =
@@ -184,14 +214,18 @@ TEST_F(ToolTest, MalformedInputGivesOneLineAndExitTwo) {
   EXPECT_EQ(missing.err, "dbgdata: " + (m_dir / "missing.xml").string() +
                              ": cannot read: No such file or directory\n");
 
-  // Comments and processing instructions between the children are dropped
-  // before the reader walks the list.
-  const ToolRun commented =
-      dump(container("<DataList ClassName=\"DataList\" SubKey=\"l\"><List>"
-                     "<!-- c --><?pi x?><Child>" +
-                     prompt + "</Child></List></DataList>"));
-  EXPECT_EQ(commented.status, 0) << commented.err;
-  EXPECT_NE(commented.out.find("PromptText=>"), std::string::npos);
+  // Comments and processing instructions between the children are not
+  // seen by the reader walking the list, nor are elements that hold no
+  // object under the container.
+  for (bool dom : {false, true}) {
+    const ToolRun commented =
+        dump(container("<Other/><DataList ClassName=\"DataList\" SubKey=\"l\">"
+                       "<List><!-- c --><?pi x?><Child>" +
+                       prompt + "</Child></List></DataList>"),
+             dom);
+    EXPECT_EQ(commented.status, 0) << commented.err;
+    EXPECT_NE(commented.out.find("PromptText=>"), std::string::npos);
+  }
 }
 
 TEST_F(ToolTest, KeyPrintsPlaceConsumedKeyAndItemPositions) {

@@ -1,5 +1,7 @@
 #include "xmllayout.h"
 
+#include "layoutcheck.h"
+
 #include <xercesc/dom/DOM.hpp>
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/framework/Wrapper4InputSource.hpp>
@@ -8,7 +10,6 @@
 #include <xercesc/util/TransService.hpp>
 #include <xercesc/util/XMLException.hpp>
 #include <xercesc/util/XMLUni.hpp>
-#include <xercesc/validators/common/Grammar.hpp>
 
 #include <cstring>
 
@@ -20,86 +21,7 @@ namespace Tools {
 
 namespace {
 
-// The layout of SerializerHelperDOM's documents. Sections are local
-// elements, so that only "UserContentContainer" may be the document element.
-// Every place where the deserializer expects an object holds exactly one,
-// and a list's "List" holds nothing but "Child" wrappers: this is what keeps
-// the deserializer's fatal errors out of reach. Values are attributes of
-// "values" elements, whatever their keys.
-const char kSchema[] = R"(<?xml version="1.0" encoding="UTF-8"?>
-<xs:schema xmlns:xs="http://www.w3.org/2001/XMLSchema">
-  <xs:element name="UserContentContainer">
-    <xs:complexType>
-      <xs:group ref="Object" minOccurs="0" maxOccurs="unbounded"/>
-    </xs:complexType>
-  </xs:element>
-
-  <xs:group name="Object">
-    <xs:choice>
-      <xs:element name="DataElement" type="DataElementSection"/>
-      <xs:element name="DataList" type="DataListSection"/>
-      <xs:element name="DataListWC" type="DataListWCSection"/>
-    </xs:choice>
-  </xs:group>
-
-  <xs:complexType name="OneObject">
-    <xs:group ref="Object"/>
-  </xs:complexType>
-
-  <xs:complexType name="NoContent"/>
-
-  <xs:complexType name="Values">
-    <xs:anyAttribute processContents="skip"/>
-  </xs:complexType>
-
-  <xs:complexType name="DataElementSection">
-    <xs:sequence>
-      <xs:element name="attributes" type="NoContent"/>
-      <xs:element name="values" type="Values"/>
-      <xs:element name="EngineData" type="OneObject" minOccurs="0"/>
-    </xs:sequence>
-    <xs:attribute name="ClassName" type="xs:string" use="required"/>
-    <xs:attribute name="SubKey" type="xs:string" use="required"/>
-  </xs:complexType>
-
-  <xs:complexType name="Children">
-    <xs:sequence>
-      <xs:element name="Child" type="OneObject"
-                  minOccurs="0" maxOccurs="unbounded"/>
-    </xs:sequence>
-  </xs:complexType>
-
-  <xs:complexType name="DataListSection">
-    <xs:sequence>
-      <xs:element name="values" type="Values" minOccurs="0"/>
-      <xs:element name="List" type="Children"/>
-    </xs:sequence>
-    <xs:attribute name="ClassName" type="xs:string" use="required"
-                  fixed="DataList"/>
-    <xs:attribute name="SubKey" type="xs:string" use="required"/>
-  </xs:complexType>
-
-  <xs:complexType name="Content">
-    <xs:sequence>
-      <xs:element name="DataElement" type="DataElementSection"/>
-    </xs:sequence>
-  </xs:complexType>
-
-  <xs:complexType name="DataListWCSection">
-    <xs:sequence>
-      <xs:element name="values" type="Values" minOccurs="0"/>
-      <xs:element name="List" type="Children"/>
-      <xs:element name="Content" type="Content" minOccurs="0"/>
-    </xs:sequence>
-    <xs:attribute name="ClassName" type="xs:string" use="required"
-                  fixed="DataListWC"/>
-    <xs:attribute name="SubKey" type="xs:string" use="required"/>
-  </xs:complexType>
-</xs:schema>
-)";
-
 const XMLCh kLoadSave[] = u"LS";
-const XMLCh kSchemaId[] = u"layout.xsd";
 const XMLCh kTextId[] = u"text";
 const char kContainerName[] = "UserContentContainer";
 
@@ -128,8 +50,6 @@ std::string oneLine(std::string text) {
 }
 
 // Keeps the first error of a parse with its position; warnings are ignored.
-// Parsing goes on after a validity error, so that a document with the
-// wrong document element is told as such rather than by the schema's words.
 class FirstError : public DOMErrorHandler {
 public:
   bool handleError(const DOMError& error) override {
@@ -193,13 +113,15 @@ InputPtr makeInput(const char* bytes, std::size_t length, const XMLCh* id) {
       true));
 }
 
-// Keeps nothing but elements (drops indentation that is not ignorable,
-// processing instructions and the like; the layout carries all data in
-// attributes) and interrupts the parse at the first element nested deeper
-// than the limit, before the XML library spends time on such a tree.
-class ElementsOnly : public DOMLSParserFilter {
+// Keeps elements and text other than white space (the layout carries all
+// data in attributes, so text can only stand where it does not belong, and
+// the layout check must see it); drops the blanks of indentation,
+// processing instructions and the like. Interrupts the parse at the first
+// element nested deeper than the limit, before the XML library spends time
+// on such a tree.
+class ElementsAndText : public DOMLSParserFilter {
 public:
-  explicit ElementsOnly(unsigned maxDepth) : m_maxDepth(maxDepth) {}
+  explicit ElementsAndText(unsigned maxDepth) : m_maxDepth(maxDepth) {}
 
   FilterAction startElement(DOMElement*) override {
     if (++m_depth <= m_maxDepth)
@@ -208,10 +130,17 @@ public:
     return FILTER_INTERRUPT;
   }
   FilterAction acceptNode(DOMNode* node) override {
-    if (node->getNodeType() != DOMNode::ELEMENT_NODE)
+    switch (node->getNodeType()) {
+    case DOMNode::ELEMENT_NODE:
+      --m_depth;
+      return FILTER_ACCEPT;
+    case DOMNode::CDATA_SECTION_NODE:
+      return FILTER_ACCEPT;
+    case DOMNode::TEXT_NODE:
+      return isBlank(node->getNodeValue()) ? FILTER_REJECT : FILTER_ACCEPT;
+    default:
       return FILTER_REJECT;
-    --m_depth;
-    return FILTER_ACCEPT;
+    }
   }
   DOMNodeFilter::ShowType getWhatToShow() const override {
     return DOMNodeFilter::SHOW_ALL;
@@ -220,6 +149,13 @@ public:
   bool tooDeep() const { return m_tooDeep; }
 
 private:
+  static bool isBlank(const XMLCh* text) {
+    for (; text && *text; ++text)
+      if (*text != ' ' && *text != '\t' && *text != '\n' && *text != '\r')
+        return false;
+    return true;
+  }
+
   const unsigned m_maxDepth;
   unsigned m_depth = 0;
   bool m_tooDeep = false;
@@ -258,24 +194,14 @@ LayoutReader::LayoutReader() {
         static_cast<DOMImplementationLS*>(implementation)
             ->createLSParser(DOMImplementationLS::MODE_SYNCHRONOUS, nullptr));
     DOMConfiguration* config = m_parser->getDomConfig();
-    config->setParameter(XMLUni::fgDOMNamespaces, true);
-    config->setParameter(XMLUni::fgXercesSchema, true);
-    config->setParameter(XMLUni::fgDOMValidate, true);
-    config->setParameter(XMLUni::fgXercesUseCachedGrammarInParse, true);
-    // Only the built-in layout: no schema, DTD or entity from elsewhere.
+    // No DTD, no entity and no schema from anywhere.
+    config->setParameter(XMLUni::fgDOMNamespaces, false);
+    config->setParameter(XMLUni::fgDOMValidate, false);
     config->setParameter(XMLUni::fgXercesLoadSchema, false);
+    config->setParameter(XMLUni::fgXercesLoadExternalDTD, false);
     config->setParameter(XMLUni::fgDOMDisallowDoctype, true);
     config->setParameter(XMLUni::fgXercesDisableDefaultEntityResolution, true);
     config->setParameter(XMLUni::fgDOMComments, false);
-    config->setParameter(XMLUni::fgDOMElementContentWhitespace, false);
-
-    FirstError schemaError;
-    HandlerScope handler(config, &schemaError);
-    InputPtr schema = makeInput(kSchema, sizeof(kSchema) - 1, kSchemaId);
-    if (!m_parser->loadGrammar(schema.get(), Grammar::SchemaGrammarType,
-                               true) ||
-        schemaError.seen())
-      m_setupProblem = schemaError.describe("the layout schema is broken");
   } catch (const XMLException& e) {
     m_setupProblem = oneLine(toUtf8(e.getMessage()));
   } catch (const DOMException& e) {
@@ -298,9 +224,10 @@ DOMDocument* LayoutReader::read(const std::string& text, std::string* problem) {
   // the previous read's, so that a reader used many times stays small.
   m_parser->resetDocumentPool();
   FirstError firstError;
-  ElementsOnly filter(kMaxDepth);
-  const std::string tooDeep =
-      "objects nested deeper than " + std::to_string(kMaxDepth) + " elements";
+  ElementsAndText filter(kMaxLayoutDepth);
+  const std::string tooDeep = "elements nested deeper than " +
+                              std::to_string(kMaxLayoutDepth) +
+                              " are not accepted";
   DOMDocument* document = nullptr;
   try {
     HandlerScope handler(m_parser->getDomConfig(), &firstError);
@@ -342,7 +269,12 @@ DOMDocument* LayoutReader::read(const std::string& text, std::string* problem) {
     return nullptr;
   }
   if (firstError.seen()) {
-    *problem = firstError.describe("not the layout of serialized data");
+    *problem = firstError.describe("not XML");
+    return nullptr;
+  }
+  std::string layoutProblem;
+  if (!checkDocumentLayout(root, &layoutProblem)) {
+    *problem = "not the layout of serialized data: " + layoutProblem;
     return nullptr;
   }
   return document;

@@ -1,5 +1,6 @@
-// Reading XML text that must hold serialized data objects: the text is
-// checked against an XML Schema of the layout the library writes before any
+// Reading XML text that must hold serialized data objects into a DOM
+// document of the XML library (the tool's --dom path): the document is
+// checked with the library's layout check (checkDocumentLayout) before any
 // of it reaches the deserializer, which stops the process on misplaced
 // sections.
 #ifndef DBGDATA_TOOLS_XMLLAYOUT_H
@@ -35,16 +36,13 @@ public:
 
   // Reads text into a document whose document element is
   // "UserContentContainer", whose content passed the layout check, and from
-  // which every node other than an element (blanks of indentation,
-  // comments, processing instructions) has been removed. On failure answers
+  // which every node other than an element or text (blanks of indentation,
+  // comments, processing instructions) has been removed. Documents nested
+  // deeper than kMaxLayoutDepth elements are refused. On failure answers
   // null and describes the first problem in one line, with the line and
   // column of the text when there is one ("3:14: ..."). The document
   // belongs to the reader and lives until the next read or the reader's end.
   xercesc::DOMDocument* read(const std::string& text, std::string* problem);
-
-  // The deepest element nesting accepted: the deserializer, the lists'
-  // destructors and the writers recurse once per level.
-  static const unsigned kMaxDepth = 600;
 
 private:
   struct ParserReleaser {

@@ -1,0 +1,150 @@
+// SerializerHelperXmlText: the writer that produces the XML text of the
+// layout directly, without a DOM document.
+//
+// The text is, byte for byte, what writeXmlText makes of the document that
+// SerializerHelperDOM builds for the same calls: the same XML declaration,
+// attributes in the DOM's order (sorted by name), the same escaping ("&amp;"
+// "&lt;" "&quot;" "&#x9;" "&#xA;" "&#xD;"; ">" and "'" as they are; UTF-8 as
+// it is, an ill-formed UTF-8 part as U+FFFD) and, when indenting, the same
+// line breaks and indentation. Every operation answers what the DOM writer
+// answers, with one exception: a value, class name or sub key holding a
+// character that XML 1.0 cannot carry (a control character other than tab,
+// line feed and carriage return, U+FFFE or U+FFFF) answers false and is not
+// written, where the DOM writer takes it and writeXmlText then fails for the
+// whole document.
+//
+// Strings are taken up to their first zero byte, as the DOM writer's
+// transcoding takes them.
+#ifndef DBGDATA_SERIALIZERHELPERXMLTEXT_H
+#define DBGDATA_SERIALIZERHELPERXMLTEXT_H
+
+#include "serializerhelper.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace Vemo {
+namespace DbgData {
+
+class SerializerHelperXmlText : public ISerializerHelper {
+public:
+  // A writer holding an empty document: the document element
+  // "UserContentContainer" is the current node. With indent the text is
+  // pretty-printed as writeXmlText(..., true, ...) prints it.
+  explicit SerializerHelperXmlText(bool indent = false);
+  ~SerializerHelperXmlText() override;
+  SerializerHelperXmlText(const SerializerHelperXmlText&) = delete;
+  SerializerHelperXmlText& operator=(const SerializerHelperXmlText&) = delete;
+
+  // Attributes "ClassName" and then (when that worked) "SubKey" of the
+  // current element itself.
+  bool setClassNameAndSubKey(const std::string& className,
+                             const std::string& subKey) override;
+  // Values are attributes of the current element's first "values" child,
+  // or of the current element when it has none; a key written twice keeps
+  // the last value. False (and nothing written) when there is no current
+  // element, the key is no XML name or the value cannot be carried.
+  bool setBool(const std::string& key, bool value) override;
+  bool setInt(const std::string& key, int value) override;
+  bool setInt(const std::string& key, unsigned int value) override;
+  bool setInt(const std::string& key, long value) override;
+  bool setInt(const std::string& key, unsigned long value) override;
+  bool setInt(const std::string& key, long long value) override;
+  bool setInt(const std::string& key, unsigned long long value) override;
+  bool setFloat(const std::string& key, double value) override;
+  bool setString(const std::string& key, const std::string& value) override;
+  bool setAddress(const std::string& key, const Address& value) override;
+  bool setScope(const std::string& key, const Scope& value) override;
+  bool setDbgDataKey(const std::string& key, const DbgDataKey& value) override;
+  // Appends an element to the current one and makes it current; a
+  // "DataElement" also gets the empty children "attributes" and "values".
+  // False (and nothing happens) when name is no XML name or there is no
+  // current element.
+  bool pushSection(const std::string& name) override;
+  // Returns to the parent element; false (and nothing happens) when there
+  // is no current element. Popping the document element leaves none.
+  bool popSection() override;
+
+  // The document written so far, complete with its XML declaration and the
+  // document element closed. Valid until the next write or reset().
+  const std::string& getText() const;
+  // Starts a new, empty document.
+  void reset();
+
+private:
+  static const std::uint32_t None = 0xFFFFFFFFu;
+
+  // Elements are kept in document order (the order they are made in is a
+  // preorder walk of the tree), attributes as lists per element. Names are
+  // interned: each distinct name is pooled once and known by its index;
+  // escaped values live in the same pool.
+  struct Element {
+    std::uint32_t name;
+    std::uint32_t depth; // 0 for the document element
+    std::uint32_t firstAttribute;
+    std::uint32_t lastAttribute;
+    std::uint32_t attributeCount;
+    std::uint32_t attributeBytes; // of all ' name="value"' texts
+    std::uint32_t values;         // the first child named "values", or None
+    bool hasChildren;
+  };
+  struct Attribute {
+    std::uint32_t name;
+    std::uint32_t value; // offset in m_pool
+    std::uint32_t valueSize;
+    std::uint32_t next;
+  };
+  // In the pool a name stands as "<name</name> name=\"", the three forms
+  // in which the text carries it.
+  struct Name {
+    std::uint32_t offset; // of the block in m_pool
+    std::uint32_t size;   // of the name
+    // The first eight bytes, ordered as the DOM orders names: two names
+    // whose keys differ are ordered by their keys.
+    std::uint64_t sortKey;
+  };
+  // The last text looked up in one slot of the name cache: the text as
+  // given, and its name's index (None: no XML name).
+  struct NameCacheEntry {
+    std::string text;
+    std::uint32_t name;
+  };
+  struct KeyIndex;
+
+  // The index of a name (taken up to its first zero byte, ill-formed UTF-8
+  // repaired), through a small cache; None when it is no XML name.
+  std::uint32_t internName(const std::string& text);
+  bool nameLess(std::uint32_t a, std::uint32_t b) const;
+  std::uint32_t appendElement(std::uint32_t parent, std::uint32_t name);
+  // Sets attribute key of element to value.
+  bool setAttribute(std::uint32_t element, const std::string& key,
+                    const char* value, std::size_t size);
+  bool setValue(const std::string& key, const char* value, std::size_t size);
+  bool setValue(const std::string& key, const std::string& value);
+  void writeText() const;
+
+  bool m_indent;
+  std::vector<Element> m_elements;
+  std::vector<Attribute> m_attributes;
+  std::vector<Name> m_names;
+  std::unordered_map<std::string, std::uint32_t> m_nameIndex;
+  std::string m_pool;
+  std::vector<std::uint32_t> m_focus;
+  std::vector<NameCacheEntry> m_nameCache;
+  std::uint32_t m_valuesName = None;
+  // Key lookup for elements with many attributes, by element.
+  std::unordered_map<std::uint32_t, std::unique_ptr<KeyIndex>> m_keyIndexes;
+  mutable std::string m_text;
+  mutable bool m_textValid = false;
+  mutable std::vector<std::uint32_t> m_sorted;
+  mutable std::vector<std::uint32_t> m_openElements;
+};
+
+} // namespace DbgData
+} // namespace Vemo
+
+#endif

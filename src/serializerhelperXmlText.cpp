@@ -1,0 +1,556 @@
+#include "serializerhelperXmlText.h"
+
+#include "dbgdatakey.h"
+#include "valuetext.h"
+#include "valuetypes.h"
+#include "xmlsyntax.h"
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+
+namespace Vemo {
+namespace DbgData {
+
+namespace {
+
+const char kDeclaration[] =
+    "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"no\" ?>";
+const std::size_t kNameCacheSize = 256;
+// Elements with more attributes than this find a key through a hash index.
+const std::uint32_t kLinearKeySearch = 12;
+
+typedef const unsigned char* Ptr;
+
+// Bytes an attribute value cannot carry as they are: '&', '<', '"', every
+// control character and every non-ASCII byte (checked as UTF-8).
+struct EscapeTable {
+  bool special[256];
+  EscapeTable() {
+    for (int c = 0; c < 256; ++c)
+      special[c] = c < 0x20 || c >= 0x80 || c == '&' || c == '<' || c == '"';
+  }
+};
+const EscapeTable kEscape;
+
+// Appends value, up to its first zero byte, to out as the XML library's text
+// writer writes an attribute value; false for a character XML 1.0 cannot
+// carry.
+bool appendEscaped(const char* value, std::size_t size, std::string& out) {
+  const Ptr begin = reinterpret_cast<Ptr>(value);
+  const Ptr end = begin + size;
+  Ptr p = begin;
+  while (p < end) {
+    const Ptr run = p;
+    while (p < end && !kEscape.special[*p])
+      ++p;
+    out.append(reinterpret_cast<const char*>(run),
+               static_cast<std::size_t>(p - run));
+    if (p >= end)
+      break;
+    switch (*p) {
+    case '&':
+      out.append("&amp;", 5);
+      ++p;
+      continue;
+    case '<':
+      out.append("&lt;", 4);
+      ++p;
+      continue;
+    case '"':
+      out.append("&quot;", 6);
+      ++p;
+      continue;
+    case '\t':
+      out.append("&#x9;", 5);
+      ++p;
+      continue;
+    case '\n':
+      out.append("&#xA;", 5);
+      ++p;
+      continue;
+    case '\r':
+      out.append("&#xD;", 5);
+      ++p;
+      continue;
+    case '\0':
+      return true; // the end of the text as the DOM takes it
+    default:
+      break;
+    }
+    if (*p < 0x80)
+      return false; // another control character
+    char32_t c = 0;
+    const int length = readUtf8(p, end, &c);
+    if (length > 0) {
+      if (!isXmlChar(c))
+        return false;
+      out.append(reinterpret_cast<const char*>(p),
+                 static_cast<std::size_t>(length));
+      p += length;
+    } else {
+      out.append("\xEF\xBF\xBD", 3);
+      p -= length;
+    }
+  }
+  return true;
+}
+
+// Length of text up to its first zero byte.
+std::size_t textLength(const std::string& text) {
+  const void* zero = std::memchr(text.data(), 0, text.size());
+  return zero ? static_cast<std::size_t>(static_cast<const char*>(zero) -
+                                         text.data())
+              : text.size();
+}
+
+// Order of names in the DOM's attribute map: by UTF-16 code units. That is
+// the order of UTF-8 bytes, except that characters beyond the basic plane
+// (lead bytes F0 to F4) come before U+E000 to U+FFFF (lead bytes EE, EF).
+// Mapped through this table, the bytes at the first place where two names
+// differ (both lead bytes, or both continuation bytes) compare as UTF-16.
+struct SortBytes {
+  unsigned char order[256];
+  SortBytes() {
+    for (int b = 0; b < 256; ++b)
+      order[b] = static_cast<unsigned char>(b);
+    for (int b = 0xF0; b <= 0xF4; ++b)
+      order[b] = static_cast<unsigned char>(b - 0xF0 + 0xEE);
+    order[0xEE] = 0xF3;
+    order[0xEF] = 0xF4;
+  }
+};
+const SortBytes kSortBytes;
+
+std::uint64_t sortKeyOf(const char* name, std::size_t size) {
+  std::uint64_t key = 0;
+  for (std::size_t i = 0; i < 8; ++i)
+    key =
+        (key << 8) |
+        (i < size ? kSortBytes.order[static_cast<unsigned char>(name[i])] : 0);
+  return key;
+}
+
+std::size_t cacheSlot(const char* text, std::size_t size) {
+  if (size == 0)
+    return 0;
+  const unsigned char first = static_cast<unsigned char>(text[0]);
+  const unsigned char last = static_cast<unsigned char>(text[size - 1]);
+  const unsigned char middle = static_cast<unsigned char>(text[size / 2]);
+  return (size * 131 + first * 31 + middle * 7 + last) % kNameCacheSize;
+}
+
+// Writes into a buffer sized beforehand. Short pieces (most of them) are
+// copied with two fixed-size moves that may overlap, rather than a call.
+struct Cursor {
+  char* p;
+  void put(const char* text, std::size_t size) {
+    if (size >= 8 && size <= 16) {
+      std::memcpy(p, text, 8);
+      std::memcpy(p + size - 8, text + size - 8, 8);
+    } else if (size >= 4 && size < 8) {
+      std::memcpy(p, text, 4);
+      std::memcpy(p + size - 4, text + size - 4, 4);
+    } else if (size < 4) {
+      for (std::size_t i = 0; i < size; ++i)
+        p[i] = text[i];
+    } else {
+      std::memcpy(p, text, size);
+    }
+    p += size;
+  }
+  void put(char c) { *p++ = c; }
+  void blanks(std::size_t count) {
+    std::memset(p, ' ', count);
+    p += count;
+  }
+};
+
+} // namespace
+
+struct SerializerHelperXmlText::KeyIndex {
+  std::unordered_map<std::uint32_t, std::uint32_t> attributes; // by name
+};
+
+SerializerHelperXmlText::SerializerHelperXmlText(bool indent)
+    : m_indent(indent) {
+  reset();
+}
+
+SerializerHelperXmlText::~SerializerHelperXmlText() = default;
+
+void SerializerHelperXmlText::reset() {
+  m_elements.clear();
+  m_attributes.clear();
+  m_names.clear();
+  m_nameIndex.clear();
+  m_pool.clear();
+  m_focus.clear();
+  m_nameCache.assign(kNameCacheSize, NameCacheEntry{std::string(), None});
+  m_keyIndexes.clear();
+  m_text.clear();
+  m_textValid = false;
+  static const std::string kValues("values");
+  static const std::string kRoot("UserContentContainer");
+  m_valuesName = internName(kValues);
+  m_elements.push_back(
+      Element{internName(kRoot), 0, None, None, 0, 0, None, false});
+  m_focus.push_back(0);
+}
+
+std::uint32_t SerializerHelperXmlText::internName(const std::string& text) {
+  NameCacheEntry& entry = m_nameCache[cacheSlot(text.data(), text.size())];
+  if (entry.text.size() == text.size() &&
+      std::memcmp(entry.text.data(), text.data(), text.size()) == 0)
+    return entry.name;
+
+  std::string name;
+  appendRepairedUtf8(text.data(), textLength(text), &name);
+  std::uint32_t index = None;
+  if (isXmlName(name.data(), name.size())) {
+    const auto found = m_nameIndex.find(name);
+    if (found != m_nameIndex.end()) {
+      index = found->second;
+    } else if (m_pool.size() + 3 * name.size() + 7 <=
+               std::numeric_limits<std::uint32_t>::max()) {
+      index = static_cast<std::uint32_t>(m_names.size());
+      m_names.push_back(Name{static_cast<std::uint32_t>(m_pool.size()),
+                             static_cast<std::uint32_t>(name.size()),
+                             sortKeyOf(name.data(), name.size())});
+      m_pool += '<';
+      m_pool += name;
+      m_pool += "</";
+      m_pool += name;
+      m_pool += "> ";
+      m_pool += name;
+      m_pool += "=\"";
+      m_nameIndex.emplace(std::move(name), index);
+    }
+  }
+  entry.text = text;
+  entry.name = index;
+  return index;
+}
+
+bool SerializerHelperXmlText::nameLess(std::uint32_t a, std::uint32_t b) const {
+  const Name& x = m_names[a];
+  const Name& y = m_names[b];
+  if (x.sortKey != y.sortKey)
+    return x.sortKey < y.sortKey;
+  const char* const pool = m_pool.data();
+  const std::size_t common = std::min(x.size, y.size);
+  for (std::size_t i = 8; i < common; ++i) {
+    const unsigned char cx = static_cast<unsigned char>(pool[x.offset + 1 + i]);
+    const unsigned char cy = static_cast<unsigned char>(pool[y.offset + 1 + i]);
+    if (cx != cy)
+      return kSortBytes.order[cx] < kSortBytes.order[cy];
+  }
+  return x.size < y.size;
+}
+
+std::uint32_t SerializerHelperXmlText::appendElement(std::uint32_t parent,
+                                                     std::uint32_t name) {
+  const std::uint32_t index = static_cast<std::uint32_t>(m_elements.size());
+  Element& parentElement = m_elements[parent];
+  parentElement.hasChildren = true;
+  if (parentElement.values == None && name == m_valuesName)
+    parentElement.values = index;
+  const std::uint32_t depth = parentElement.depth + 1;
+  m_elements.push_back(Element{name, depth, None, None, 0, 0, None, false});
+  return index;
+}
+
+bool SerializerHelperXmlText::pushSection(const std::string& name) {
+  if (m_focus.empty() ||
+      m_elements.size() >= std::numeric_limits<std::uint32_t>::max() - 3)
+    return false;
+  const std::uint32_t element = internName(name);
+  if (element == None)
+    return false;
+  m_textValid = false;
+  const std::uint32_t index = appendElement(m_focus.back(), element);
+  m_focus.push_back(index);
+  if (name == "DataElement") {
+    static const std::string kAttributes("attributes");
+    appendElement(index, internName(kAttributes));
+    appendElement(index, m_valuesName);
+  }
+  return true;
+}
+
+bool SerializerHelperXmlText::popSection() {
+  if (m_focus.empty())
+    return false;
+  m_focus.pop_back();
+  return true;
+}
+
+bool SerializerHelperXmlText::setAttribute(std::uint32_t element,
+                                           const std::string& key,
+                                           const char* value,
+                                           std::size_t size) {
+  const std::uint32_t name = internName(key);
+  if (name == None)
+    return false;
+  const std::size_t mark = m_pool.size();
+  if (!appendEscaped(value, size, m_pool) ||
+      m_pool.size() > std::numeric_limits<std::uint32_t>::max() ||
+      m_attributes.size() >= std::numeric_limits<std::uint32_t>::max() - 1) {
+    m_pool.resize(mark);
+    return false;
+  }
+  m_textValid = false;
+  const std::uint32_t valueOffset = static_cast<std::uint32_t>(mark);
+  const std::uint32_t valueSize =
+      static_cast<std::uint32_t>(m_pool.size() - mark);
+
+  Element& target = m_elements[element];
+  if (target.attributeCount < kLinearKeySearch) {
+    // The list is kept in the DOM's order: the key is either there or its
+    // place is found on the way.
+    std::uint32_t before = None;
+    std::uint32_t a = target.firstAttribute;
+    for (; a != None; before = a, a = m_attributes[a].next) {
+      Attribute& attribute = m_attributes[a];
+      if (attribute.name == name) {
+        target.attributeBytes += valueSize - attribute.valueSize;
+        attribute.value = valueOffset;
+        attribute.valueSize = valueSize;
+        return true;
+      }
+      if (nameLess(name, attribute.name))
+        break;
+    }
+    const std::uint32_t added = static_cast<std::uint32_t>(m_attributes.size());
+    m_attributes.push_back(Attribute{name, valueOffset, valueSize, a});
+    if (before == None)
+      target.firstAttribute = added;
+    else
+      m_attributes[before].next = added;
+    if (a == None)
+      target.lastAttribute = added;
+  } else {
+    // Many keys: found through an index, new ones appended; the text sorts
+    // them.
+    std::unique_ptr<KeyIndex>& slot = m_keyIndexes[element];
+    if (!slot) {
+      slot.reset(new KeyIndex);
+      for (std::uint32_t a = target.firstAttribute; a != None;
+           a = m_attributes[a].next)
+        slot->attributes.emplace(m_attributes[a].name, a);
+    }
+    const auto found = slot->attributes.find(name);
+    if (found != slot->attributes.end()) {
+      Attribute& attribute = m_attributes[found->second];
+      target.attributeBytes += valueSize - attribute.valueSize;
+      attribute.value = valueOffset;
+      attribute.valueSize = valueSize;
+      return true;
+    }
+    const std::uint32_t added = static_cast<std::uint32_t>(m_attributes.size());
+    m_attributes.push_back(Attribute{name, valueOffset, valueSize, None});
+    m_attributes[target.lastAttribute].next = added;
+    target.lastAttribute = added;
+    slot->attributes.emplace(name, added);
+  }
+  ++target.attributeCount;
+  target.attributeBytes += 4 + m_names[name].size + valueSize;
+  return true;
+}
+
+bool SerializerHelperXmlText::setValue(const std::string& key,
+                                       const char* value, std::size_t size) {
+  if (m_focus.empty())
+    return false;
+  const Element& current = m_elements[m_focus.back()];
+  return setAttribute(current.values != None ? current.values : m_focus.back(),
+                      key, value, size);
+}
+
+bool SerializerHelperXmlText::setValue(const std::string& key,
+                                       const std::string& value) {
+  return setValue(key, value.data(), value.size());
+}
+
+bool SerializerHelperXmlText::setClassNameAndSubKey(
+    const std::string& className, const std::string& subKey) {
+  if (m_focus.empty())
+    return false;
+  static const std::string kClassName("ClassName");
+  static const std::string kSubKey("SubKey");
+  return setAttribute(m_focus.back(), kClassName, className.data(),
+                      className.size()) &&
+         setAttribute(m_focus.back(), kSubKey, subKey.data(), subKey.size());
+}
+
+bool SerializerHelperXmlText::setBool(const std::string& key, bool value) {
+  return value ? setValue(key, "true", 4) : setValue(key, "false", 5);
+}
+
+bool SerializerHelperXmlText::setInt(const std::string& key, int value) {
+  const DecimalText<int> text(value);
+  return setValue(key, text.text, text.size);
+}
+
+bool SerializerHelperXmlText::setInt(const std::string& key,
+                                     unsigned int value) {
+  const DecimalText<unsigned int> text(value);
+  return setValue(key, text.text, text.size);
+}
+
+bool SerializerHelperXmlText::setInt(const std::string& key, long value) {
+  const DecimalText<long> text(value);
+  return setValue(key, text.text, text.size);
+}
+
+bool SerializerHelperXmlText::setInt(const std::string& key,
+                                     unsigned long value) {
+  const DecimalText<unsigned long> text(value);
+  return setValue(key, text.text, text.size);
+}
+
+bool SerializerHelperXmlText::setInt(const std::string& key, long long value) {
+  const DecimalText<long long> text(value);
+  return setValue(key, text.text, text.size);
+}
+
+bool SerializerHelperXmlText::setInt(const std::string& key,
+                                     unsigned long long value) {
+  const DecimalText<unsigned long long> text(value);
+  return setValue(key, text.text, text.size);
+}
+
+bool SerializerHelperXmlText::setFloat(const std::string& key, double value) {
+  const FloatText text(value);
+  return setValue(key, text.text, text.size);
+}
+
+bool SerializerHelperXmlText::setString(const std::string& key,
+                                        const std::string& value) {
+  return setValue(key, value);
+}
+
+bool SerializerHelperXmlText::setAddress(const std::string& key,
+                                         const Address& value) {
+  std::string text;
+  value.serialize(text);
+  return setValue(key, text);
+}
+
+bool SerializerHelperXmlText::setScope(const std::string& key,
+                                       const Scope& value) {
+  std::string text;
+  value.serialize(text);
+  return setValue(key, text);
+}
+
+bool SerializerHelperXmlText::setDbgDataKey(const std::string& key,
+                                            const DbgDataKey& value) {
+  return setValue(key, value.toString());
+}
+
+// ---------------------------------------------------------------------------
+// Text
+
+const std::string& SerializerHelperXmlText::getText() const {
+  if (!m_textValid) {
+    writeText();
+    m_textValid = true;
+  }
+  return m_text;
+}
+
+void SerializerHelperXmlText::writeText() const {
+  // The exact size first, so that the text is written in one buffer. With
+  // indentation, an element of depth d starts on a new line (preceded by an
+  // empty line at depth 1) indented by 2d blanks, and so does the end tag of
+  // an element with children (preceded by an empty line for the document
+  // element's); the document ends with a line break.
+  const std::size_t declaration = sizeof(kDeclaration) - 1;
+  std::size_t total = declaration + (m_indent ? 2 : 0);
+  for (const Element& element : m_elements) {
+    const std::size_t nameSize = m_names[element.name].size;
+    total += 1 + nameSize + element.attributeBytes +
+             (element.hasChildren ? 4 + nameSize : 2);
+    if (m_indent) {
+      if (element.depth > 0)
+        total += 1 + (element.depth == 1) + 2 * element.depth;
+      if (element.hasChildren)
+        total += 1 + (element.depth == 0) + 2 * element.depth;
+    }
+  }
+  m_text.resize(total);
+  Cursor out{&m_text[0]};
+  const char* const pool = m_pool.data();
+  const auto closeElement = [&](const Element& element) {
+    if (m_indent) {
+      out.put('\n');
+      if (element.depth == 0)
+        out.put('\n');
+      out.blanks(2 * element.depth);
+    }
+    const Name& name = m_names[element.name];
+    out.put(pool + name.offset + 1 + name.size, name.size + 3); // "</name>"
+  };
+  const auto putAttribute = [&](const Attribute& attribute) {
+    const Name& name = m_names[attribute.name];
+    out.put(pool + name.offset + 2 * name.size + 4,
+            name.size + 3); // " name=\""
+    out.put(pool + attribute.value, attribute.valueSize);
+    out.put('"');
+  };
+
+  out.put(kDeclaration, declaration);
+  if (m_indent)
+    out.put('\n');
+  m_openElements.clear();
+  for (const Element& element : m_elements) {
+    while (!m_openElements.empty() &&
+           m_elements[m_openElements.back()].depth >= element.depth) {
+      closeElement(m_elements[m_openElements.back()]);
+      m_openElements.pop_back();
+    }
+    if (m_indent && element.depth > 0) {
+      out.put('\n');
+      if (element.depth == 1)
+        out.put('\n');
+      out.blanks(2 * element.depth);
+    }
+    const Name& name = m_names[element.name];
+    out.put(pool + name.offset, name.size + 1); // "<name"
+    // Attributes in the DOM's order: kept so in short lists, sorted here in
+    // long ones.
+    if (element.attributeCount < kLinearKeySearch) {
+      for (std::uint32_t a = element.firstAttribute; a != None;
+           a = m_attributes[a].next)
+        putAttribute(m_attributes[a]);
+    } else {
+      m_sorted.clear();
+      for (std::uint32_t a = element.firstAttribute; a != None;
+           a = m_attributes[a].next)
+        m_sorted.push_back(a);
+      std::sort(m_sorted.begin(), m_sorted.end(),
+                [&](std::uint32_t x, std::uint32_t y) {
+                  return nameLess(m_attributes[x].name, m_attributes[y].name);
+                });
+      for (std::uint32_t a : m_sorted)
+        putAttribute(m_attributes[a]);
+    }
+    if (element.hasChildren) {
+      out.put('>');
+      m_openElements.push_back(
+          static_cast<std::uint32_t>(&element - m_elements.data()));
+    } else {
+      out.put("/>", 2);
+    }
+  }
+  while (!m_openElements.empty()) {
+    closeElement(m_elements[m_openElements.back()]);
+    m_openElements.pop_back();
+  }
+  if (m_indent)
+    out.put('\n');
+}
+
+} // namespace DbgData
+} // namespace Vemo
