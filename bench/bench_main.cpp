@@ -129,23 +129,52 @@ std::string timeText(double ns) {
 
 std::string sizeName(long n) { return std::to_string(n); }
 
-// One row per tree size: library case against baseline case at that size.
+// A size a case runs at: its argument and how the tables name it.
+struct Size {
+  long arg;
+  std::string label;
+};
+
+const std::vector<Size>& treeSizes() {
+  static const std::vector<Size> sizes = {
+      {kSmallN, "N=1000"}, {kMediumN, "N=10000"}, {kLargeN, "N=100000"}};
+  return sizes;
+}
+
+const std::vector<Size>& lineSizes() {
+  static const std::vector<Size> sizes = {{kSmallN, "1000 lines"},
+                                          {kMediumN, "10000 lines"},
+                                          {kLargeN, "100000 lines"}};
+  return sizes;
+}
+
+const std::vector<Size>& memorySizes() {
+  static const std::vector<Size> sizes = {{kMemorySizes[0], "1 KiB"},
+                                          {kMemorySizes[1], "32 KiB"},
+                                          {kMemorySizes[2], "1 MiB"}};
+  return sizes;
+}
+
+// One row per size: library case against baseline case at that size.
 void addPerSize(std::vector<Row>& rows, const std::string& label,
                 const std::string& library, const std::string& baseline,
-                double target) {
-  for (long n : {kSmallN, kMediumN, kLargeN}) {
-    const std::string arg = "/" + sizeName(n);
+                double target, const std::vector<Size>& sizes = treeSizes()) {
+  for (const Size& size : sizes) {
+    const std::string arg = "/" + sizeName(size.arg);
     rows.push_back(
-        {label + " N=" + sizeName(n), library + arg, baseline + arg, target});
+        {label + " " + size.label, library + arg, baseline + arg, target});
   }
 }
 
-// Per-register time at the largest size against the smallest.
+// Time per unit (register, item, line, byte) at the largest size against
+// the smallest.
 void addScaling(std::vector<Row>& rows, const std::string& label,
-                const std::string& name, double target) {
-  rows.push_back({label, name + "/" + sizeName(kLargeN),
-                  name + "/" + sizeName(kSmallN), target, double(kLargeN),
-                  double(kSmallN)});
+                const std::string& name, double target,
+                const std::vector<Size>& sizes = treeSizes()) {
+  const long small = sizes.front().arg, large = sizes.back().arg;
+  rows.push_back({label, name + "/" + sizeName(large),
+                  name + "/" + sizeName(small), target, double(large),
+                  double(small)});
 }
 
 std::vector<Row> ratioRows() {
@@ -202,6 +231,39 @@ std::vector<Row> ratioRows() {
   rows.push_back({"Scaling XML read vs pugixml's", "XmlRead_Fast" + large,
                   "XmlRead_Pugixml" + large, 1.3, per, per,
                   "XmlRead_Fast" + small, "XmlRead_Pugixml" + small});
+  // The heavy classes.
+  addPerSize(rows, "Memory item write", "MemoryItemWrite_Library",
+             "MemoryItemWrite_Direct", 1.15, memorySizes());
+  addPerSize(rows, "Memory item read", "MemoryItemRead_Library",
+             "MemoryItemRead_Direct", 1.25, memorySizes());
+  addPerSize(rows, "Source item write", "SourceItemWrite_Library",
+             "SourceItemWrite_Direct", 1.15, lineSizes());
+  addPerSize(rows, "Source item read", "SourceItemRead_Library",
+             "SourceItemRead_Direct", 1.25, lineSizes());
+  addPerSize(rows, "Symbol list write", "SymbolsWrite_Library",
+             "SymbolsWrite_Direct", 1.15);
+  addPerSize(rows, "Symbol list read", "SymbolsRead_Library",
+             "SymbolsRead_Direct", 1.25);
+  addPerSize(rows, "Thread list write", "ThreadsWrite_Library",
+             "ThreadsWrite_Direct", 1.15);
+  addPerSize(rows, "Thread list read", "ThreadsRead_Library",
+             "ThreadsRead_Direct", 1.25);
+  addScaling(rows, "Scaling memory write 1M/1K", "MemoryItemWrite_Library", 1.3,
+             memorySizes());
+  addScaling(rows, "Scaling memory read 1M/1K", "MemoryItemRead_Library", 1.3,
+             memorySizes());
+  addScaling(rows, "Scaling source write 1e5/1e3", "SourceItemWrite_Library",
+             1.3, lineSizes());
+  addScaling(rows, "Scaling source read 1e5/1e3", "SourceItemRead_Library", 1.3,
+             lineSizes());
+  addScaling(rows, "Scaling symbol write 1e5/1e3", "SymbolsWrite_Library", 1.3);
+  addScaling(rows, "Scaling symbol read 1e5/1e3", "SymbolsRead_Library", 1.3);
+  addScaling(rows, "Scaling thread write 1e5/1e3", "ThreadsWrite_Library", 1.3);
+  addScaling(rows, "Scaling thread read 1e5/1e3", "ThreadsRead_Library", 1.3);
+  addScaling(rows, "  direct symbol write 1e5/1e3", "SymbolsWrite_Direct", 0);
+  addScaling(rows, "  direct symbol read 1e5/1e3", "SymbolsRead_Direct", 0);
+  addScaling(rows, "  direct thread write 1e5/1e3", "ThreadsWrite_Direct", 0);
+  addScaling(rows, "  direct thread read 1e5/1e3", "ThreadsRead_Direct", 0);
   return rows;
 }
 
@@ -241,8 +303,7 @@ void printRatios(const SummaryReporter& results) {
 
 // Per-object figures: CPU time divided by the case's "objects" counter.
 void printPerObject(const SummaryReporter& results) {
-  std::printf("\n%-32s %12s %12s\n", "Per object (all data objects)", "Time",
-              "ns/object");
+  bool header = false;
   for (const char* name : {"Clone", "Compare", "DomWrite_Library",
                            "DomRead_Library", "TextDump_Library",
                            "XmlWrite_Fast", "XmlWrite_Dom", "XmlWrite_TextDump",
@@ -252,9 +313,112 @@ void printPerObject(const SummaryReporter& results) {
       const Result* result = results.find(full);
       if (!result || !result->counters.count("objects"))
         continue;
+      if (!header) {
+        std::printf("\n%-32s %12s %12s\n", "Per object (all data objects)",
+                    "Time", "ns/object");
+        header = true;
+      }
       const double ns = result->nanoseconds();
       std::printf("%-32s %12s %12.1f\n", full.c_str(), timeText(ns).c_str(),
                   ns / result->counters.at("objects"));
+    }
+  }
+}
+
+// A case of the heavy classes whose time and heap are reported per unit.
+struct UnitCase {
+  const char* label;
+  const char* timeCase;  // its DOM write or read case
+  const char* heapCase;  // its heap case (null: none)
+  const char* heapLabel; // how the heap table names it
+  const std::vector<Size>& (*sizes)();
+};
+
+const UnitCase kUnitCases[] = {
+    {"memory write, per byte", "MemoryItemWrite_Library", "HeapPer_MemoryByte",
+     "memory item, per byte", memorySizes},
+    {"memory read, per byte", "MemoryItemRead_Library", nullptr, nullptr,
+     memorySizes},
+    {"source write, per line", "SourceItemWrite_Library", "HeapPer_SourceLine",
+     "source item, per line", lineSizes},
+    {"source read, per line", "SourceItemRead_Library", nullptr, nullptr,
+     lineSizes},
+    {"symbol list write, per symbol", "SymbolsWrite_Library", "HeapPer_Symbol",
+     "symbol list, per symbol", treeSizes},
+    {"symbol list read, per symbol", "SymbolsRead_Library", nullptr, nullptr,
+     treeSizes},
+    {"thread list write, per thread", "ThreadsWrite_Library", "HeapPer_Thread",
+     "thread list, per thread", treeSizes},
+    {"thread list read, per thread", "ThreadsRead_Library", nullptr, nullptr,
+     treeSizes},
+};
+
+// Time per byte, line or item of the heavy classes at each size.
+void printPerUnit(const SummaryReporter& results) {
+  bool header = false;
+  for (const UnitCase& unit : kUnitCases) {
+    std::string line;
+    bool any = false;
+    for (const Size& size : unit.sizes()) {
+      const Result* result =
+          results.find(std::string(unit.timeCase) + "/" + sizeName(size.arg));
+      char cell[40] = "           -";
+      if (result) {
+        std::snprintf(cell, sizeof cell, " %9.2f ns",
+                      result->nanoseconds() / double(size.arg));
+        any = true;
+      }
+      line += cell;
+    }
+    if (!any)
+      continue;
+    if (!header) {
+      std::printf("\n%-32s %12s %12s %12s\n", "Time per unit (sizes as above)",
+                  "small", "medium", "large");
+      header = true;
+    }
+    std::printf("%-32s%s\n", unit.label, line.c_str());
+  }
+}
+
+// Heap per byte, line or item of the heavy classes at each size: what the
+// object, its DOM document and the object read back hold.
+void printHeapPerUnit(const SummaryReporter& results) {
+  bool header = false;
+  for (const UnitCase& unit : kUnitCases) {
+    if (!unit.heapCase)
+      continue;
+    for (const char* part : {"object", "DOM document", "read back"}) {
+      const std::string blocksName = std::string(part) == "DOM document"
+                                         ? "DOM blocks"
+                                         : std::string(part) + " blocks";
+      std::string line;
+      bool any = false;
+      for (const Size& size : unit.sizes()) {
+        const Result* result = results.findPrefix(
+            std::string(unit.heapCase) + "/" + sizeName(size.arg) + "/");
+        char cell[40] = "                    -";
+        if (result && result->counters.count(part)) {
+          std::snprintf(cell, sizeof cell, " %10.1f B (%6.3f)",
+                        result->counters.at(part),
+                        result->counters.count(blocksName)
+                            ? result->counters.at(blocksName)
+                            : 0.0);
+          any = true;
+        }
+        line += cell;
+      }
+      if (!any)
+        continue;
+      if (!header) {
+        std::printf("\nHeap per unit, usable bytes of operator new blocks "
+                    "(and blocks):\n%-38s %21s %21s %21s\n",
+                    "", "small", "medium", "large");
+        header = true;
+      }
+      std::printf("%-38s%s\n",
+                  (std::string(unit.heapLabel) + ": " + part).c_str(),
+                  line.c_str());
     }
   }
 }
@@ -264,7 +428,7 @@ void printMemory(const SummaryReporter& results) {
   const Result* found = results.findPrefix("Memory/" + sizeName(kLargeN) + "/");
   if (!found)
     return;
-  std::printf("\nHeap in use per register, N=%ld (mallinfo2 deltas; one "
+  std::printf("\nHeap in use per register, N=%ld (operator new blocks; one "
               "register = a RegisterItem with its engine data, %.2f data "
               "objects):\n",
               kLargeN, double(objectCount(kLargeN)) / kLargeN);
@@ -332,6 +496,8 @@ int main(int argc, char** argv) {
   Bench::printPerObject(reporter);
   Bench::printMemory(reporter);
   Bench::printXmlHeap(reporter);
+  Bench::printPerUnit(reporter);
+  Bench::printHeapPerUnit(reporter);
   benchmark::Shutdown();
   return 0;
 }

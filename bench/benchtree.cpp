@@ -1,7 +1,12 @@
 #include "benchtree.h"
 
 #include "ddmanager.h"
+#include "deserializer.h"
+#include "deserializerhelperDOM.h"
+#include "serializerhelperDOM.h"
 #include "xmltext.h"
+
+#include <xercesc/dom/DOM.hpp>
 
 #include <algorithm>
 #include <cstdio>
@@ -107,6 +112,35 @@ const DataList& groupOf(const DebuggerData* child) {
 
 const RegisterItem& registerOf(const DebuggerData* child) {
   return *static_cast<const RegisterItem*>(child);
+}
+
+void measureHeap(benchmark::State& state,
+                 const std::function<std::unique_ptr<DebuggerData>()>& build,
+                 double units) {
+  initialiseLibrary();
+  HeapInUse object, document, readBack;
+  for (auto _ : state) {
+    HeapCounting counting;
+    std::unique_ptr<DebuggerData> built = build();
+    object = counting.inUse();
+    SerializerHelperDOM writer;
+    built->serialize(&writer);
+    document = counting.inUse();
+    DeserializerHelperDOM reader(writer.getDocument()->getDocumentElement());
+    std::unique_ptr<DebuggerData> copy(getDeserializer()->deserialize(&reader));
+    readBack = counting.inUse();
+    if (!checkOnce(state, copy && *copy == *built, "read back"))
+      return;
+  }
+  const auto set = [&](const std::string& name, double before, double after) {
+    state.counters[name] = (after - before) / units;
+  };
+  set("object", 0, object.bytes);
+  set("object blocks", 0, object.blocks);
+  set("DOM document", object.bytes, document.bytes);
+  set("DOM blocks", object.blocks, document.blocks);
+  set("read back", document.bytes, readBack.bytes);
+  set("read back blocks", document.blocks, readBack.blocks);
 }
 
 bool checkOnce(benchmark::State& state, bool ok, const std::string& what) {

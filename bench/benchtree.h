@@ -9,12 +9,16 @@
 #ifndef DBGDATA_BENCH_BENCHTREE_H
 #define DBGDATA_BENCH_BENCHTREE_H
 
+#include "ddmanager.h"
 #include "debuggerdata.h"
 #include "registerdata.h"
 
 #include <benchmark/benchmark.h>
 
 #include <cstddef>
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -36,6 +40,24 @@ constexpr long kSmallN = 1000;
 constexpr long kMediumN = 10000;
 constexpr long kLargeN = 100000;
 
+// Sizes of the memory item (bytes) that its cases run at: 1 KiB, 32 KiB,
+// 1 MiB.
+constexpr long kMemorySizes[] = {1L << 10, 1L << 15, 1L << 20};
+
+// A data object from the factory, as the reader makes them, of the class
+// asked for. The benchmark cannot run without it, so a failure ends the
+// program.
+template <class T>
+std::unique_ptr<T> makeObject(const char* className,
+                              const std::string& subKey) {
+  DebuggerData* object = Vemo::DbgData::st_ddmanager.factory(className, subKey);
+  if (!object || !object->isKindOf(T::staticRtti())) {
+    std::fprintf(stderr, "the factory cannot make a %s\n", className);
+    std::exit(1);
+  }
+  return std::unique_ptr<T>(static_cast<T*>(object));
+}
+
 // Initialises the XML library and the data manager once, before any case
 // runs, and keeps the XML library up until the program ends.
 void initialiseLibrary();
@@ -55,6 +77,32 @@ long objectCount(long n);
 // The nested lists and the registers of a tree, by their known layout.
 const DataList& groupOf(const DebuggerData* child);
 const RegisterItem& registerOf(const DebuggerData* child);
+
+// Heap the program holds from operator new: the usable size of the blocks
+// and their number, both counted from when the HeapCounting object was made
+// (blocks given back during that time count negative, whenever they were
+// taken). One object at a time; it runs single-threaded.
+struct HeapInUse {
+  double bytes = 0;
+  double blocks = 0;
+};
+class HeapCounting {
+public:
+  HeapCounting();
+  ~HeapCounting();
+  HeapCounting(const HeapCounting&) = delete;
+  HeapCounting& operator=(const HeapCounting&) = delete;
+  HeapInUse inUse() const;
+};
+
+// Builds an object with build(), writes it into a DOM document with the
+// library's writer and reads that back with the deserializer, and sets the
+// case's counters to what each of the three steps added to the heap, in
+// bytes ("object", "DOM document", "read back") and blocks ("... blocks"),
+// divided by units. Run it once (Iterations(1)).
+void measureHeap(benchmark::State& state,
+                 const std::function<std::unique_ptr<DebuggerData>()>& build,
+                 double units);
 
 // Marks the case as failed (its figures are then left out of the summary)
 // and answers false when ok is false.

@@ -4,12 +4,13 @@
 //
 // Two baselines per direction:
 // - "Direct": the floor. Keys and values are converted per call, as the
-//   library must, with the cheapest correct conversion (ASCII widened or
-//   narrowed in a stack buffer, anything else through the XML library's
+//   library must, with the cheapest correct conversion (directxml.h: ASCII
+//   widened or narrowed in a loop, anything else through the XML library's
 //   transcoder). The layout's own names are constants.
 // - "Transcode": the same walk, converting every key and value with
 //   XMLString::transcode and XMLString::release.
 #include "benchtree.h"
+#include "directxml.h"
 
 #include "deserializer.h"
 #include "deserializerhelperDOM.h"
@@ -17,8 +18,6 @@
 #include "xmltext.h"
 
 #include <xercesc/dom/DOM.hpp>
-#include <xercesc/util/PlatformUtils.hpp>
-#include <xercesc/util/XMLString.hpp>
 
 #include <charconv>
 #include <cstring>
@@ -31,95 +30,6 @@ using namespace xercesc;
 namespace Bench {
 
 namespace {
-
-constexpr XmlLiteral kCore("Core");
-constexpr XmlLiteral kRootName("UserContentContainer");
-constexpr XmlLiteral kDataElement("DataElement");
-constexpr XmlLiteral kDataList("DataList");
-constexpr XmlLiteral kDataListWC("DataListWC");
-constexpr XmlLiteral kAttributes("attributes");
-constexpr XmlLiteral kValues("values");
-constexpr XmlLiteral kEngineData("EngineData");
-constexpr XmlLiteral kList("List");
-constexpr XmlLiteral kChild("Child");
-constexpr XmlLiteral kContent("Content");
-constexpr XmlLiteral kClassName("ClassName");
-constexpr XmlLiteral kSubKey("SubKey");
-
-// ---------------------------------------------------------------------------
-// Conversions of the two baselines
-
-// Narrow text as a DOM string: widened in place when it is ASCII.
-class WidenedText {
-public:
-  WidenedText(const char* text, std::size_t length) {
-    if (length < kInline) {
-      std::size_t i = 0;
-      for (; i < length && static_cast<unsigned char>(text[i]) < 0x80; ++i)
-        m_inline[i] = static_cast<XMLCh>(text[i]);
-      if (i == length) {
-        m_inline[length] = 0;
-        m_text = m_inline;
-        return;
-      }
-    }
-    m_text = m_heap = XMLString::transcode(text);
-  }
-  explicit WidenedText(const std::string& text)
-      : WidenedText(text.c_str(), text.size()) {}
-  ~WidenedText() {
-    if (m_heap)
-      XMLString::release(&m_heap);
-  }
-  WidenedText(const WidenedText&) = delete;
-  WidenedText& operator=(const WidenedText&) = delete;
-  const XMLCh* get() const { return m_text; }
-
-private:
-  static const std::size_t kInline = 128;
-  XMLCh m_inline[kInline];
-  XMLCh* m_heap = nullptr;
-  const XMLCh* m_text;
-};
-
-// Narrow text as a DOM string, always through the transcoder.
-class TranscodedText {
-public:
-  TranscodedText(const char* text, std::size_t)
-      : m_text(XMLString::transcode(text)) {}
-  explicit TranscodedText(const std::string& text)
-      : TranscodedText(text.c_str(), text.size()) {}
-  ~TranscodedText() { XMLString::release(&m_text); }
-  TranscodedText(const TranscodedText&) = delete;
-  TranscodedText& operator=(const TranscodedText&) = delete;
-  const XMLCh* get() const { return m_text; }
-
-private:
-  XMLCh* m_text;
-};
-
-// A DOM string into a narrow string: narrowed directly when it is ASCII.
-struct Narrowing {
-  static void assign(const XMLCh* text, std::string& out) {
-    const XMLSize_t length = XMLString::stringLen(text);
-    out.resize(length);
-    for (XMLSize_t i = 0; i < length; ++i) {
-      if (text[i] >= 0x80) {
-        Transcoding::assign(text, out);
-        return;
-      }
-      out[i] = static_cast<char>(text[i]);
-    }
-  }
-  struct Transcoding {
-    static void assign(const XMLCh* text, std::string& out) {
-      char* narrow = XMLString::transcode(text);
-      out.assign(narrow);
-      XMLString::release(&narrow);
-    }
-  };
-};
-typedef Narrowing::Transcoding Transcoding;
 
 // ---------------------------------------------------------------------------
 // Direct writer: the tree's layout spelled out with Xerces calls.
@@ -320,13 +230,6 @@ private:
 // ---------------------------------------------------------------------------
 // Checks, made once per size outside the timed loops
 
-std::string xmlTextOf(const DOMNode* node) {
-  std::string text;
-  if (!writeXmlText(node, false, &text))
-    return "<not writable>";
-  return text;
-}
-
 bool sameRegister(const PlainRegister& plain, const DebuggerData* object) {
   const RegisterItem& item = registerOf(object);
   const bool sameEngine =
@@ -415,17 +318,6 @@ bool libraryReadMatches(long n) {
   PlainTree plain;
   DirectReader<WidenedText, Narrowing>().read(writtenRoot(n), plain);
   return tree == sharedTree(n) && samePlainTree(plain, tree);
-}
-
-// Runs check once per size and remembers the answer.
-template <class Check>
-bool verifiedOnce(const char* what, long n, Check check) {
-  static std::map<std::pair<std::string, long>, bool> answers;
-  const auto key = std::make_pair(std::string(what), n);
-  const auto found = answers.find(key);
-  if (found != answers.end())
-    return found->second;
-  return answers[key] = check(n);
 }
 
 void setCounters(benchmark::State& state, long n) {

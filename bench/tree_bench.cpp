@@ -1,6 +1,7 @@
 // Cases on the object tree itself: the text dump (against appending the same
 // text directly), clone and comparison (reported per object), and the heap
-// that the tree, its DOM document and its text take.
+// that the tree, its DOM document and its text take (counted by
+// heapcount.cpp).
 #include "benchtree.h"
 
 #include "deserializer.h"
@@ -9,8 +10,6 @@
 #include "serializerhelperString.h"
 
 #include <xercesc/dom/DOM.hpp>
-
-#include <malloc.h>
 
 #include <charconv>
 #include <map>
@@ -189,35 +188,32 @@ void Compare(benchmark::State& state) {
 // ---------------------------------------------------------------------------
 // Heap per register for the largest tree
 
-std::size_t heapInUse() {
-  const struct mallinfo2 info = mallinfo2();
-  return info.uordblks + info.hblkhd;
-}
-
-double perRegister(std::size_t before, std::size_t after, long n) {
-  return after > before ? double(after - before) / double(n) : 0.0;
+double perRegister(double before, double after, long n) {
+  return after > before ? (after - before) / double(n) : 0.0;
 }
 
 void Memory(benchmark::State& state) {
   const long n = state.range(0);
   double tree = 0, dom = 0, readBack = 0, text = 0;
   for (auto _ : state) {
-    const std::size_t start = heapInUse();
+    HeapCounting counting;
+    const auto heapInUse = [&counting] { return counting.inUse().bytes; };
+    const double start = heapInUse();
     std::unique_ptr<DataListWC> built = buildTree(n);
-    const std::size_t afterTree = heapInUse();
+    const double afterTree = heapInUse();
     {
       SerializerHelperDOM writer;
       built->serialize(&writer);
-      const std::size_t afterDom = heapInUse();
+      const double afterDom = heapInUse();
       DeserializerHelperDOM reader(writer.getDocument()->getDocumentElement());
       std::unique_ptr<DebuggerData> copy(
           getDeserializer()->deserialize(&reader));
-      const std::size_t afterRead = heapInUse();
+      const double afterRead = heapInUse();
       tree = perRegister(start, afterTree, n);
       dom = perRegister(afterTree, afterDom, n);
       readBack = perRegister(afterDom, afterRead, n);
     }
-    const std::size_t beforeText = heapInUse();
+    const double beforeText = heapInUse();
     {
       SerializerHelperString writer;
       built->serialize(&writer);

@@ -22,6 +22,10 @@ public:
   // leaves text untouched.
   static bool convertBinToHex(const unsigned char* data, unsigned int size,
                               std::string& text);
+  // The same digits written to out, which holds at least 2 x size
+  // characters; nothing else is written (no terminator).
+  static void encodeDigits(const unsigned char* data, std::size_t size,
+                           char* out);
   // Decodes pairs of digits into out, which holds at least text.size() / 2
   // bytes. An odd length answers false and writes nothing; non-digits count
   // as 0.

@@ -6,7 +6,8 @@
 #
 # Usage: scripts/bench.sh [benchmark options], for example
 #   scripts/bench.sh --benchmark_filter='Key|Hex'
-# Takes about three minutes on two cores.
+# Takes five to seven minutes on two cores (the heavy classes alone three
+# and a half to four and a half).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/deps.sh

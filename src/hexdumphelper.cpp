@@ -46,14 +46,19 @@ bool HexDumpHelper::convertBinToHex(const unsigned char* data,
     return false;
   if (data == nullptr)
     throwDDFatalError("Bad Pointer!", "src/hexdumphelper.cpp", __LINE__);
-  // Both digits of a byte come from one table of 256 digit pairs (made
-  // from _hexmap).
-  static const DigitPairs pairs;
   text.clear();
   text.resize(2 * static_cast<std::string::size_type>(size));
   // Through a local pointer: stores through the string's operator[] could
   // alias the string object and would reload its buffer for every byte.
-  char* out = &text[0];
+  encodeDigits(data, size, &text[0]);
+  return true;
+}
+
+void HexDumpHelper::encodeDigits(const unsigned char* data, std::size_t size,
+                                 char* out) {
+  // Both digits of a byte come from one table of 256 digit pairs (made
+  // from _hexmap).
+  static const DigitPairs pairs;
   // Four bytes per round, written as one store of eight digits: a loop of
   // one byte per round runs up to twice as slow depending on where it lands
   // in the code.
@@ -66,7 +71,6 @@ bool HexDumpHelper::convertBinToHex(const unsigned char* data,
   }
   for (; i < size; ++i)
     std::memcpy(out + 2 * i, pairs.digits[data[i]], 2);
-  return true;
 }
 
 bool HexDumpHelper::convertHexToBin(const std::string& text,

@@ -1,6 +1,7 @@
 #include "sourcedata.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace Vemo {
 namespace DbgData {
@@ -9,20 +10,33 @@ static_assert(sizeof(unsigned long) == 8,
               "line values travel as 64-bit numbers");
 
 namespace {
-const std::size_t kDigitsPerLine = 16; // 8 bytes, two digits each
+
+const std::size_t kBytesPerLine = 8;
+const std::size_t kDigitsPerLine = 2 * kBytesPerLine;
+// Lines converted per round through a stack buffer of their bytes: large
+// enough that the codec's calls cost nothing per line, small enough to stay
+// in the first-level cache.
+const std::size_t kLinesPerRound = 256;
+
 } // namespace
 
 std::string SourceLineValues::toHex() const {
-  // Digits straight from the codec's table: the bytes of a value are not
-  // laid out in memory anywhere, so there is no buffer to convert.
+  // The bytes of the values are laid out, least significant first, a round
+  // of lines at a time, and go through the codec's encoder straight into
+  // the text.
   std::string text(kDigitsPerLine * values.size(), '0');
   char* out = &text[0];
-  for (const unsigned long value : values) {
-    for (unsigned shift = 0; shift < 64; shift += 8) {
-      const unsigned byte = (value >> shift) & 0xFF;
-      *out++ = HexDumpHelper::_hexmap[byte >> 4];
-      *out++ = HexDumpHelper::_hexmap[byte & 0x0F];
+  unsigned char bytes[kBytesPerLine * kLinesPerRound];
+  for (std::size_t first = 0; first < values.size(); first += kLinesPerRound) {
+    const std::size_t lines = std::min(kLinesPerRound, values.size() - first);
+    unsigned char* byte = bytes;
+    for (std::size_t line = first; line < first + lines; ++line) {
+      const unsigned long value = values[line];
+      for (unsigned shift = 0; shift < 64; shift += 8)
+        *byte++ = static_cast<unsigned char>(value >> shift);
     }
+    HexDumpHelper::encodeDigits(bytes, kBytesPerLine * lines, out);
+    out += kDigitsPerLine * lines;
   }
   return text;
 }
@@ -42,15 +56,25 @@ bool SourceLineValues::assignHex(const std::string& text, unsigned long count) {
     return false;
   const std::size_t usable = std::min<std::size_t>(
       text.size(), kDigitsPerLine * static_cast<std::size_t>(count));
-  for (std::size_t line = 0; kDigitsPerLine * line < usable; ++line) {
-    const std::size_t first = kDigitsPerLine * line;
-    unsigned char bytes[8] = {};
-    HexDumpHelper::convertHexToBin(
-        text.data() + first, std::min(kDigitsPerLine, usable - first), bytes);
-    unsigned long value = 0;
-    for (int byte = 7; byte >= 0; --byte)
-      value = value << 8 | bytes[byte];
-    values[line] = value;
+  const std::size_t reached = (usable + kDigitsPerLine - 1) / kDigitsPerLine;
+  // A round of lines at a time: their digits decoded into a stack buffer
+  // (zeros after a partial last value), then assembled into values.
+  unsigned char bytes[kBytesPerLine * kLinesPerRound];
+  for (std::size_t first = 0; first < reached; first += kLinesPerRound) {
+    const std::size_t lines = std::min(kLinesPerRound, reached - first);
+    const std::size_t digits =
+        std::min(kDigitsPerLine * lines, usable - kDigitsPerLine * first);
+    std::memset(bytes + digits / 2, 0, kBytesPerLine * lines - digits / 2);
+    HexDumpHelper::convertHexToBin(text.data() + kDigitsPerLine * first, digits,
+                                   bytes);
+    const unsigned char* byte = bytes;
+    for (std::size_t line = first; line < first + lines; ++line) {
+      unsigned long value = 0;
+      for (int k = static_cast<int>(kBytesPerLine) - 1; k >= 0; --k)
+        value = value << 8 | byte[k];
+      values[line] = value;
+      byte += kBytesPerLine;
+    }
   }
   return usable == kDigitsPerLine * static_cast<std::size_t>(count);
 }

@@ -16,7 +16,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
+#include <cstdio>
 
 using namespace Vemo::DbgData;
 using TestSupport::ClassCase;
@@ -338,6 +340,39 @@ TEST(SourceItem, LineCountsTheTextDoesNotBackAreBoundedOrRefused) {
                                      "\" ByteArray=\"" + text + "\""));
   EXPECT_EQ(item->getNoOfLines(), many);
   EXPECT_EQ(item->getLineValue(many), 0x2Au);
+}
+
+// The values travel a few hundred lines at a time; every line keeps its
+// place across those rounds, a text ending inside a later round fills the
+// lines it reaches and a partial value takes the digits there are.
+TEST(SourceItem, ManyLinesKeepTheirPlacesInTheText) {
+  const unsigned long count = 600;
+  SourceLineValues values;
+  std::string expected;
+  for (unsigned long i = 0; i < count; ++i) {
+    values.values.push_back(0x0123456789ABCDEFul * (i + 1) + i);
+    for (unsigned shift = 0; shift < 64; shift += 8) {
+      char digits[3];
+      std::snprintf(digits, sizeof digits, "%02X",
+                    static_cast<unsigned>(values.values[i] >> shift & 0xFF));
+      expected += digits;
+    }
+  }
+  ASSERT_EQ(values.toHex(), expected);
+
+  SourceLineValues back;
+  EXPECT_TRUE(back.assignHex(expected, count));
+  EXPECT_EQ(back.values, values.values);
+
+  // Cut after 513 whole lines and three bytes of the next one.
+  const std::size_t cut = 16 * 513 + 6;
+  EXPECT_FALSE(back.assignHex(expected.substr(0, cut), count));
+  ASSERT_EQ(back.values.size(), count);
+  EXPECT_TRUE(std::equal(values.values.begin(), values.values.begin() + 513,
+                         back.values.begin()));
+  EXPECT_EQ(back.values[513], values.values[513] & 0xFFFFFFul);
+  EXPECT_EQ(std::count(back.values.begin() + 514, back.values.end(), 0ul),
+            long(count - 514));
 }
 
 TEST(BreakPointItem, KindPredicatesNeedAllTheirBits) {

@@ -286,6 +286,14 @@ TEST(HexDumpHelperTest, EncodesUpperCaseAndDecodesWithoutValidation) {
   unsigned char back[sizeof bytes];
   EXPECT_TRUE(HexDumpHelper::convertHexToBin(text, back));
   EXPECT_EQ(std::memcmp(back, bytes, sizeof bytes), 0);
+  // The raw encoder writes the digits and nothing else, in rounds of four
+  // bytes and a tail.
+  for (std::size_t size = 0; size <= sizeof bytes; ++size) {
+    std::string digits(2 * sizeof bytes + 1, '#');
+    HexDumpHelper::encodeDigits(bytes, size, &digits[0]);
+    EXPECT_EQ(digits.substr(0, 2 * size), text.substr(0, 2 * size));
+    EXPECT_EQ(digits.find_first_not_of('#', 2 * size), std::string::npos);
+  }
 
   // Exactly the 21 non-zero hex digits decode to something other than 0.
   int nonZero = 0;
