@@ -1,4 +1,4 @@
-// Writes the seed documents of the XML fuzzer: one document per class the
+// Writes the starting corpus of the XML fuzzer: one document per class the
 // factory can make, holding the self-check's sample object of that class,
 // into the directory given as the only argument (<ClassName>.xml).
 #include "ddmanager.h"
@@ -58,6 +58,6 @@ int main(int argc, char** argv) {
     }
     ++written;
   }
-  std::cout << written << " seed documents in " << argv[1] << "\n";
+  std::cout << written << " corpus documents in " << argv[1] << "\n";
   return 0;
 }
