@@ -42,6 +42,18 @@ std::unique_ptr<DebuggerData> rewrite(const DebuggerData& object) {
   return std::unique_ptr<DebuggerData>(getDeserializer()->deserialize(&reader));
 }
 
+bool isObjectSection(const xercesc::DOMNode* node) {
+  static constexpr XmlLiteral kDataElement("DataElement");
+  static constexpr XmlLiteral kDataList("DataList");
+  static constexpr XmlLiteral kDataListWC("DataListWC");
+  if (node->getNodeType() != xercesc::DOMNode::ELEMENT_NODE)
+    return false;
+  const XMLCh* name = node->getNodeName();
+  return xercesc::XMLString::equals(name, kDataElement.get()) ||
+         xercesc::XMLString::equals(name, kDataList.get()) ||
+         xercesc::XMLString::equals(name, kDataListWC.get());
+}
+
 [[noreturn]] void fail(const char* what, const DebuggerData& object) {
   std::fprintf(stderr, "fuzz_xml: %s for class %s\n", what,
                object.getClassName().c_str());
@@ -81,11 +93,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, size_t size) {
   // so each object in turn is made the container's only child.
   xercesc::DOMElement* container = document->getDocumentElement();
   std::vector<xercesc::DOMNode*> objects;
-  // The layout check lets text stand between the objects; only elements are
-  // objects.
+  // The layout check lets other nodes stand between the objects; as the
+  // dump command does, only object sections are read.
   while (xercesc::DOMNode* child = container->getFirstChild()) {
     container->removeChild(child); // still the document's
-    if (child->getNodeType() == xercesc::DOMNode::ELEMENT_NODE)
+    if (isObjectSection(child))
       objects.push_back(child);
   }
   for (xercesc::DOMNode* node : objects) {
