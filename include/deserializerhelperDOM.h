@@ -23,7 +23,7 @@ XERCES_CPP_NAMESPACE_END
 namespace Vemo {
 namespace DbgData {
 
-class DeserializerHelperDOM : public IDeserializerHelper {
+class DeserializerHelperDOM : public IDeserializerHelper, public IValueCount {
 public:
   // A reader with no element yet: every read answers false until initDOM().
   DeserializerHelperDOM() = default;
@@ -76,6 +76,9 @@ public:
   // Leaves the list section and drops its cursor; false (and nothing
   // happens) when no list section is open.
   bool popListSection() override;
+
+  // The number of attributes of the current node's "values" child.
+  unsigned long getValueCount() const override;
 
   // cleanupDOM() followed by initDOM(element).
   virtual void resetDOM(const xercesc::DOMElement* element);

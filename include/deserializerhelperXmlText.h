@@ -35,7 +35,8 @@ struct xml_node_struct;
 namespace Vemo {
 namespace DbgData {
 
-class DeserializerHelperXmlText : public IDeserializerHelper {
+class DeserializerHelperXmlText : public IDeserializerHelper,
+                                  public IValueCount {
 public:
   // A reader without a document: every read answers false until parse().
   DeserializerHelperXmlText();
@@ -104,6 +105,9 @@ public:
   // happens) when no list section is open.
   bool popListSection() override;
 
+  // The number of attributes of the current node's "values" child.
+  unsigned long getValueCount() const override;
+
 private:
   typedef pugi::xml_node_struct* Node;
   struct Document;
@@ -121,6 +125,8 @@ private:
   Node firstChild(const Focus& focus) const;
   Node findChild(const Focus& focus, const std::string& name) const;
   bool enter(Node node);
+  // The current node's first "values" child, or null.
+  Node valuesNode() const;
   // The text of attribute key of the current node's "values" child; null
   // when there is no such child, "" when it lacks the attribute.
   const char* valueText(const std::string& key) const;

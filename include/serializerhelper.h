@@ -73,6 +73,18 @@ public:
   virtual bool popListSection() = 0;
 };
 
+// A second interface that a reader may implement beside IDeserializerHelper:
+// how many values the current section holds. A list's length read from the
+// data is checked against it (readListCount), so that a short document
+// cannot make the reader build a long list of empty items. It is a separate
+// class so that IDeserializerHelper's own operations stay as they are.
+class IValueCount {
+public:
+  virtual ~IValueCount() = default;
+  // The number of values stored in the current section; 0 without one.
+  virtual unsigned long getValueCount() const = 0;
+};
+
 } // namespace DbgData
 } // namespace Vemo
 

@@ -144,6 +144,18 @@ private:
 
 std::ostream& operator<<(std::ostream& out, const Address& address);
 std::ostream& operator<<(std::ostream& out, const Scope& scope);
+// Reads a list's stored length from countKey into *count, for a list whose
+// items are values of the current section. A list keeps its stored length
+// when some items are missing (they read as empty), but only within reason:
+// the count is refused (false, *count set to 0) when it exceeds the values
+// the section holds by more than kMissingListItems, or, with a reader that
+// cannot count its values (no IValueCount), when it exceeds kMaxListItems.
+// Otherwise the answer is the reader's answer for the key.
+constexpr unsigned long kMissingListItems = 16;
+constexpr unsigned long kMaxListItems = 1ul << 20;
+bool readListCount(const IDeserializerHelper* reader,
+                   const std::string& countKey, unsigned long* count);
+
 std::ostream& operator<<(std::ostream& out, const StringVector& vector);
 // Reads the seven words of an address's storage text.
 std::istream& operator>>(std::istream& in, Address& address);

@@ -160,6 +160,13 @@ bool DeserializerHelperDOM::getValueText(const std::string& key,
   return values && getStringHelper(key, text, values);
 }
 
+unsigned long DeserializerHelperDOM::getValueCount() const {
+  const DOMNode* values = findChildNamed(getFocusNode(), kValues.get());
+  const DOMNamedNodeMap* attributes =
+      values ? values->getAttributes() : nullptr;
+  return attributes ? static_cast<unsigned long>(attributes->getLength()) : 0;
+}
+
 bool DeserializerHelperDOM::getNameAndSubKey(std::string* className,
                                              std::string* subKey) const {
   return getStringHelper("ClassName", className, nullptr) &&

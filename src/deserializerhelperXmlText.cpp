@@ -291,7 +291,7 @@ bool DeserializerHelperXmlText::popListSection() {
 // ---------------------------------------------------------------------------
 // Values
 
-const char* DeserializerHelperXmlText::valueText(const std::string& key) const {
+DeserializerHelperXmlText::Node DeserializerHelperXmlText::valuesNode() const {
   if (m_focus.empty())
     return nullptr;
   const Focus& focus = m_focus.back();
@@ -300,9 +300,22 @@ const char* DeserializerHelperXmlText::valueText(const std::string& key) const {
     focus.values = findChild(focus, kValues);
     focus.valuesKnown = true;
   }
-  if (!focus.values)
+  return focus.values;
+}
+
+unsigned long DeserializerHelperXmlText::getValueCount() const {
+  unsigned long count = 0;
+  for (pugi::xml_attribute attribute =
+           pugi::xml_node(valuesNode()).first_attribute();
+       attribute; attribute = attribute.next_attribute())
+    ++count;
+  return count;
+}
+
+const char* DeserializerHelperXmlText::valueText(const std::string& key) const {
+  const pugi::xml_node values(valuesNode());
+  if (!values)
     return nullptr;
-  const pugi::xml_node values(focus.values);
   std::string scratch;
   const std::string_view wanted = lookupName(key, &scratch);
 

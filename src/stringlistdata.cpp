@@ -31,12 +31,7 @@ bool writeValue(ISerializerHelper* writer, const std::string& countKey,
 bool readValue(IDeserializerHelper* reader, const std::string& countKey,
                StringList::Elements& elements) {
   unsigned long count = 0;
-  bool result = reader->getInt(countKey, &count);
-  // The same bound as a StringVector's count: a count read from outside
-  // must not drive a loop (and a list) of any length it likes.
-  const unsigned long kMaxCount = 1ul << 20;
-  if (count > kMaxCount)
-    return false;
+  bool result = readListCount(reader, countKey, &count);
   // One temporary for all elements: a key that cannot be read appends
   // whatever the reader left in it (the DOM reader leaves it empty), so the
   // list keeps the stored count.

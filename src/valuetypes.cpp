@@ -264,6 +264,20 @@ bool Scope::operator!=(const Scope& other) const { return !(*this == other); }
 // ---------------------------------------------------------------------------
 // StringVector
 
+bool readListCount(const IDeserializerHelper* reader,
+                   const std::string& countKey, unsigned long* count) {
+  *count = 0;
+  unsigned long stored = 0;
+  const bool found = reader->getInt(countKey, &stored);
+  const IValueCount* values = dynamic_cast<const IValueCount*>(reader);
+  const unsigned long limit =
+      values ? values->getValueCount() + kMissingListItems : kMaxListItems;
+  if (stored > limit)
+    return false;
+  *count = stored;
+  return found;
+}
+
 StringVector* StringVector::clone() const {
   StringVector* copy = new StringVector;
   for (const std::string& item : m_items)
@@ -277,13 +291,7 @@ bool StringVector::deserialize(const std::string& name,
     throwDDFatalError("Bad Pointer!", kSourceName, __LINE__);
   m_items.clear();
   unsigned long count = 0;
-  bool result = reader->getInt(name + "_Size", &count);
-  // A count beyond kMaxCount cannot come from a list this library wrote
-  // into one record; it is refused as unreadable instead of driving a loop
-  // of that length (the XML reader answers a missing item as found, empty).
-  const unsigned long kMaxCount = 1ul << 20;
-  if (count > kMaxCount)
-    return false;
+  bool result = readListCount(reader, name + "_Size", &count);
   // Every index below the stored count gets an item, read or not, so that
   // the list keeps its stored length.
   for (unsigned long i = 0; i < count; ++i) {

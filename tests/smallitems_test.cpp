@@ -213,7 +213,13 @@ TEST(StringList, ReadingCloneAndAssignmentAppend) {
 TEST(StringList, OutsideCountsAboveTheBoundAreRefused) {
   auto list = make<StringList>("StringList", "k");
   list->addStringItem("kept");
-  for (const char* count : {"1048577", "18446744073709551615", "-1"}) {
+  // Two values in the section: up to 2 + 16 elements are believed, and
+  // the missing ones read as empty.
+  EXPECT_TRUE(readValues(*list, "NumOfElements=\"18\" LF0000=\"x\""));
+  EXPECT_EQ(list->getSize(), 19ul);
+  list = make<StringList>("StringList", "k");
+  list->addStringItem("kept");
+  for (const char* count : {"19", "1048577", "18446744073709551615", "-1"}) {
     EXPECT_FALSE(readValues(*list, std::string("NumOfElements=\"") + count +
                                        "\" LF0000=\"x\""))
         << count;

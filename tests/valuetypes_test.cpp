@@ -36,6 +36,7 @@ public:
       *out = found->second;
     return found != values.end();
   }
+  unsigned long getValueCount() const override { return values.size(); }
 };
 
 // The storage text shows all five fields, so it also serves to compare them.
@@ -266,14 +267,16 @@ TEST(StringVectorTest, ReadingKeepsTheStoredCount) {
   reader.values["e_Size"] = "0";
   EXPECT_TRUE(vector.deserialize("e", &reader));
 
-  // A damaged count far beyond any real list is refused as a whole; the
-  // largest accepted count still keeps every index.
-  reader.values["l_Size"] = "9223372036854775808";
-  EXPECT_FALSE(vector.deserialize("l", &reader));
-  EXPECT_EQ(vector.getSize(), 0u);
-  reader.values["l_Size"] = std::to_string(1ul << 20);
-  EXPECT_FALSE(vector.deserialize("l", &reader));
-  EXPECT_EQ(vector.getSize(), 1ul << 20);
+  // A count may pass the values the section holds by a few missing items;
+  // beyond that it is refused as a whole, with no item added.
+  reader.values = {{"l_Size", std::to_string(1 + kMissingListItems)}};
+  EXPECT_FALSE(vector.deserialize("l", &reader)); // every item is missing
+  EXPECT_EQ(vector.getSize(), 1 + kMissingListItems);
+  for (const char* count : {"18", "1048576", "9223372036854775808"}) {
+    reader.values["l_Size"] = count;
+    EXPECT_FALSE(vector.deserialize("l", &reader)) << count;
+    EXPECT_EQ(vector.getSize(), 0u) << count;
+  }
 }
 
 TEST(HexDumpHelperTest, EncodesUpperCaseAndDecodesWithoutValidation) {
