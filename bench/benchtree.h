@@ -11,6 +11,7 @@
 
 #include "ddmanager.h"
 #include "debuggerdata.h"
+#include "memorydata.h"
 #include "registerdata.h"
 
 #include <benchmark/benchmark.h>
@@ -29,6 +30,7 @@ using Vemo::DbgData::DataElement;
 using Vemo::DbgData::DataList;
 using Vemo::DbgData::DataListWC;
 using Vemo::DbgData::DebuggerData;
+using Vemo::DbgData::MemoryItem;
 using Vemo::DbgData::RegisterGroup;
 using Vemo::DbgData::RegisterItem;
 
@@ -69,6 +71,14 @@ std::unique_ptr<DataListWC> buildTree(long n);
 // The tree of n registers, built once and kept for the whole run: the cases
 // that only read the tree share it.
 const DataListWC& sharedTree(long n);
+
+// The heavy classes' objects, fresh and owned by the caller: a memory item
+// of that many pseudo-random bytes; a "GlobalSymbols" list of n symbols; a
+// "Threads" list with its content and n threads, each a member of three
+// OpenMP teams (bench/heavy_bench.cpp, bench/list_bench.cpp).
+std::unique_ptr<MemoryItem> buildMemoryItem(long bytes);
+std::unique_ptr<DataListWC> buildSymbols(long n);
+std::unique_ptr<DataListWC> buildThreads(long n);
 
 // Number of data objects in a tree of n registers: the root list, its
 // content, the nested lists, the registers and their engine data.

@@ -81,6 +81,8 @@ template <class T> std::unique_ptr<T> libraryRead(const DOMElement* root) {
 // ---------------------------------------------------------------------------
 // MemoryItem
 
+} // namespace
+
 std::unique_ptr<MemoryItem> buildMemoryItem(long bytes) {
   const unsigned long long start = 0x7ffd40000000ull;
   std::unique_ptr<MemoryItem> item =
@@ -92,6 +94,8 @@ std::unique_ptr<MemoryItem> buildMemoryItem(long bytes) {
   item->setAddress(Address(0, start, 0, 1, 64));
   return item;
 }
+
+namespace {
 
 const MemoryItem& sharedMemoryItem(long bytes) {
   static std::map<long, std::unique_ptr<MemoryItem>> items;

@@ -52,6 +52,8 @@ SymbolItem* makeSymbol(long index) {
   return symbol;
 }
 
+} // namespace
+
 std::unique_ptr<DataListWC> buildSymbols(long n) {
   std::unique_ptr<DataListWC> list =
       makeObject<DataListWC>("DataListWC", "GlobalSymbols");
@@ -59,6 +61,8 @@ std::unique_ptr<DataListWC> buildSymbols(long n) {
     list->appendChild(makeSymbol(i));
   return list;
 }
+
+namespace {
 
 ThreadItem* makeThread(long index) {
   const std::string id = std::to_string(index + 1);
@@ -97,6 +101,8 @@ ThreadItem* makeThread(long index) {
 }
 
 // The first thread is the current one: the list's special item.
+} // namespace
+
 std::unique_ptr<DataListWC> buildThreads(long n) {
   std::unique_ptr<DataListWC> list =
       makeObject<DataListWC>("DataListWC", "Threads");
@@ -110,6 +116,8 @@ std::unique_ptr<DataListWC> buildThreads(long n) {
     list->setSpecialItem(list->getConstList()->front());
   return list;
 }
+
+namespace {
 
 // Lists built once per size and kept, with the documents the library
 // writes of them (for the read cases).

@@ -46,8 +46,16 @@ const std::vector<XmlWorkload>& workloads() {
       all.push_back(
           {std::to_string(n), objectCount(n),
            [n]() -> std::unique_ptr<DebuggerData> { return buildTree(n); }});
-    // Heavy classes join here, one line each, for example:
-    //   all.push_back({"MemoryItem1MiB", 2, &buildMemoryItem1MiB});
+    all.push_back({"MemoryItem1MiB", 1, [] {
+                     return std::unique_ptr<DebuggerData>(
+                         buildMemoryItem(1L << 20));
+                   }});
+    all.push_back(
+        {"Symbols10000", 1 + kMediumN,
+         [] { return std::unique_ptr<DebuggerData>(buildSymbols(kMediumN)); }});
+    all.push_back(
+        {"Threads10000", 2 + kMediumN,
+         [] { return std::unique_ptr<DebuggerData>(buildThreads(kMediumN)); }});
     return all;
   }();
   return list;
