@@ -44,15 +44,22 @@ bool deliberateRefusal(const XmlTextError& error) {
   return error.message.compare(0, 9, "not XML: ") != 0;
 }
 
-// Whether one of the last four bytes of text belongs to an ill-formed UTF-8
-// sequence.
+// The length of the sequence that the XML library's UTF-8 decoder expects
+// after this first byte: it still knows the five- and six-byte sequences of
+// the first UTF-8 design (lead bytes F8 to FF).
+int claimedLength(unsigned char lead) {
+  return lead >= 0xFC ? 6 : lead >= 0xF8 ? 5 : 4;
+}
+
+// Whether an ill-formed UTF-8 sequence starts within the last four bytes of
+// text, or within as many as its first byte claims.
 bool endsIllFormed(const std::string& text) {
   const auto* begin = reinterpret_cast<const unsigned char*>(text.data());
   const auto* end = begin + text.size();
   for (const unsigned char* p = begin; p < end;) {
     char32_t c;
     const int length = readUtf8(p, end, &c);
-    if (length < 0 && end - p <= 4)
+    if (length < 0 && end - p <= claimedLength(*p))
       return true;
     p += length < 0 ? -length : length;
   }
