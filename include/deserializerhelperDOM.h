@@ -117,6 +117,14 @@ protected:
   std::vector<const xercesc::DOMNode*> childCursors;
 
 private:
+  // The current node's first "values" child, or null. Every value of a
+  // section is read from it, so it is looked up once while a node is
+  // current; every change of the current node forgets it.
+  const xercesc::DOMNode* valuesNode() const;
+  void forgetValuesNode();
+  mutable const xercesc::DOMNode* m_valuesOf = nullptr;
+  mutable const xercesc::DOMNode* m_values = nullptr;
+
   // The text of attribute key of the "values" child into *text; false when
   // there is no such child or it cannot be read.
   bool getValueText(const std::string& key, std::string* text) const;

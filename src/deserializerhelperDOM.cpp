@@ -49,6 +49,7 @@ void DeserializerHelperDOM::initDOM(const DOMElement* element) {
   const DOMDocument* owner = element->getOwnerDocument();
   if (!owner)
     throwDDFatalError("Bad Pointer!", kSourceName, __LINE__);
+  forgetValuesNode();
   document = owner;
   rootElement = element;
   focusStack.clear();
@@ -57,6 +58,7 @@ void DeserializerHelperDOM::initDOM(const DOMElement* element) {
 }
 
 void DeserializerHelperDOM::cleanupDOM() {
+  forgetValuesNode();
   document = nullptr;
   rootElement = nullptr;
   focusStack.clear();
@@ -80,6 +82,7 @@ DeserializerHelperDOM::findSubNode(const std::string& name,
 bool DeserializerHelperDOM::setFocusToChild(const DOMNode* node) {
   if (!node)
     return false;
+  forgetValuesNode();
   focusStack.push_back(node);
   return true;
 }
@@ -87,6 +90,7 @@ bool DeserializerHelperDOM::setFocusToChild(const DOMNode* node) {
 bool DeserializerHelperDOM::setFocusToParent() {
   if (focusStack.empty())
     return false;
+  forgetValuesNode();
   focusStack.pop_back();
   return true;
 }
@@ -156,12 +160,26 @@ bool DeserializerHelperDOM::getStringHelper(const std::string& key,
 
 bool DeserializerHelperDOM::getValueText(const std::string& key,
                                          std::string* text) const {
-  const DOMNode* values = findChildNamed(getFocusNode(), kValues.get());
+  const DOMNode* values = valuesNode();
   return values && getStringHelper(key, text, values);
 }
 
+const DOMNode* DeserializerHelperDOM::valuesNode() const {
+  const DOMNode* focus = getFocusNode();
+  if (focus != m_valuesOf) {
+    m_valuesOf = focus;
+    m_values = findChildNamed(focus, kValues.get());
+  }
+  return m_values;
+}
+
+void DeserializerHelperDOM::forgetValuesNode() {
+  m_valuesOf = nullptr;
+  m_values = nullptr;
+}
+
 unsigned long DeserializerHelperDOM::getValueCount() const {
-  const DOMNode* values = findChildNamed(getFocusNode(), kValues.get());
+  const DOMNode* values = valuesNode();
   const DOMNamedNodeMap* attributes =
       values ? values->getAttributes() : nullptr;
   return attributes ? static_cast<unsigned long>(attributes->getLength()) : 0;
@@ -234,7 +252,7 @@ bool DeserializerHelperDOM::getFloat(const std::string& key,
 bool DeserializerHelperDOM::getString(const std::string& key,
                                       std::string* out) const {
   requireOutput(out, __LINE__);
-  const DOMNode* values = findChildNamed(getFocusNode(), kValues.get());
+  const DOMNode* values = valuesNode();
   return values && getStringHelper(key, out, values);
 }
 

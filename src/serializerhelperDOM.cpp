@@ -13,6 +13,7 @@
 
 #include <charconv>
 #include <cstdio>
+#include <type_traits>
 
 using namespace xercesc;
 
@@ -64,22 +65,37 @@ template <class Int> struct DecimalText {
 // ---------------------------------------------------------------------------
 // Transcoders
 
+// Both converters copy ASCII in a loop, whatever its length, into the
+// inline buffer or a buffer of the XML library's memory manager (which
+// XMLString::release frees, as it frees what transcode makes); only text
+// with other characters goes through the XML library's transcoder.
+namespace {
+
+template <class Out, class In>
+Out* copyAscii(const In* text, Out* inlineBuffer, std::size_t inlineSize) {
+  std::size_t length = 0;
+  while (text[length] != 0) {
+    if (static_cast<std::make_unsigned_t<In>>(text[length]) >= 0x80)
+      return nullptr;
+    ++length;
+  }
+  Out* out = inlineBuffer;
+  if (length >= inlineSize)
+    out = static_cast<Out*>(XMLPlatformUtils::fgMemoryManager->allocate(
+        (length + 1) * sizeof(Out)));
+  for (std::size_t i = 0; i <= length; ++i)
+    out[i] = static_cast<Out>(text[i]);
+  return out;
+}
+
+} // namespace
+
 A2X::A2X(const char* pszAnsiStr) : _psxXmlStr(nullptr), _bTranscoded(false) {
   DD_ASSERT(pszAnsiStr);
-  for (std::size_t i = 0; i < InlineSize; ++i) {
-    const unsigned char c = static_cast<unsigned char>(pszAnsiStr[i]);
-    if (c >= 0x80)
-      break;
-    _inline[i] = static_cast<XMLCh>(c);
-    if (c == 0) {
-      _psxXmlStr = _inline;
-      break;
-    }
-  }
-  if (!_psxXmlStr) {
+  _psxXmlStr = copyAscii(pszAnsiStr, _inline, InlineSize);
+  if (!_psxXmlStr)
     _psxXmlStr = XMLString::transcode(pszAnsiStr);
-    _bTranscoded = true;
-  }
+  _bTranscoded = _psxXmlStr != _inline;
   DD_ASSERT(_psxXmlStr);
 }
 
@@ -90,20 +106,10 @@ A2X::~A2X() {
 
 X2A::X2A(const XMLCh* psxXmlStr) : _pszAnsiStr(nullptr), _bTranscoded(false) {
   DD_ASSERT(psxXmlStr);
-  for (std::size_t i = 0; i < InlineSize; ++i) {
-    const XMLCh c = psxXmlStr[i];
-    if (c >= 0x80)
-      break;
-    _inline[i] = static_cast<char>(c);
-    if (c == 0) {
-      _pszAnsiStr = _inline;
-      break;
-    }
-  }
-  if (!_pszAnsiStr) {
+  _pszAnsiStr = copyAscii(psxXmlStr, _inline, InlineSize);
+  if (!_pszAnsiStr)
     _pszAnsiStr = XMLString::transcode(psxXmlStr);
-    _bTranscoded = true;
-  }
+  _bTranscoded = _pszAnsiStr != _inline;
   DD_ASSERT(_pszAnsiStr);
 }
 

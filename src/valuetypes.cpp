@@ -5,7 +5,9 @@
 #include "serializerhelper.h"
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
+#include <cstring>
 #include <istream>
 #include <ostream>
 #include <sstream>
@@ -67,6 +69,54 @@ std::string framedText(const std::string& text, const char* opening,
     return std::string();
   return text.substr(open + skip, close - (open + skip));
 }
+
+// A cursor over the exact text that Address::serialize and Scope::serialize
+// write: single blanks, numbers without sign or prefix where the writer
+// puts none. Reading that form needs no stream; any other text (more
+// blanks, other white space, signs, prefixes, numbers out of range, text
+// around the frame) makes a step fail, and the caller then reads it through
+// the stream, whose results the fast steps match on the exact form.
+struct StoredText {
+  const char* p;
+  const char* end;
+
+  bool literal(const char* text, std::size_t size) {
+    if (static_cast<std::size_t>(end - p) < size ||
+        std::memcmp(p, text, size) != 0)
+      return false;
+    p += size;
+    return true;
+  }
+  template <std::size_t N> bool literal(const char (&text)[N]) {
+    return literal(text, N - 1);
+  }
+  template <class T> bool number(T& value, int base) {
+    const std::from_chars_result result = std::from_chars(p, end, value, base);
+    if (result.ec != std::errc() || result.ptr == p)
+      return false;
+    p = result.ptr;
+    return true;
+  }
+  // Mode, width, segment, offset and aux of "Address( m w s o a )Address".
+  bool address(AddressType& mode, AddressSize& width,
+               unsigned long long& segment, unsigned long long& offset,
+               unsigned long long& aux) {
+    return literal("Address( ") && number(mode, 10) && literal(" ") &&
+           number(width, 10) && literal(" ") && number(segment, 16) &&
+           literal(" ") && number(offset, 16) && literal(" ") &&
+           number(aux, 16) && literal(" )Address");
+  }
+  // A word of hexadecimal digits followed by a blank.
+  bool hexWord(std::string& word) {
+    const char* start = p;
+    while (p != end && std::isxdigit(static_cast<unsigned char>(*p)))
+      ++p;
+    if (p == start || p == end || *p != ' ')
+      return false;
+    word.assign(start, p);
+    return true;
+  }
+};
 
 // The key under which a StringVector stores item index: "<name>_0",
 // "<name>_0x1", ... (a stream with showbase writes 0 without prefix).
@@ -135,14 +185,20 @@ void Address::serialize(std::string& text) const {
 }
 
 bool Address::deserialize(const std::string& text) {
-  std::istringstream in(framedText(text, "Address(", ")Address", 8));
   Address parsed;
-  readPart(in, parsed.m_mode);
-  readPart(in, parsed.m_bitWidth);
-  in >> std::hex;
-  readPart(in, parsed.m_segment);
-  readPart(in, parsed.m_offset);
-  readPart(in, parsed.m_aux);
+  StoredText stored{text.data(), text.data() + text.size()};
+  if (!stored.address(parsed.m_mode, parsed.m_bitWidth, parsed.m_segment,
+                      parsed.m_offset, parsed.m_aux) ||
+      stored.p != stored.end) {
+    parsed = Address();
+    std::istringstream in(framedText(text, "Address(", ")Address", 8));
+    readPart(in, parsed.m_mode);
+    readPart(in, parsed.m_bitWidth);
+    in >> std::hex;
+    readPart(in, parsed.m_segment);
+    readPart(in, parsed.m_offset);
+    readPart(in, parsed.m_aux);
+  }
   if (parsed.m_mode >= 4 || parsed.m_bitWidth < 8 || parsed.m_bitWidth > 128)
     return false;
   *this = parsed;
@@ -219,16 +275,33 @@ void Scope::serialize(std::string& text) const {
 }
 
 bool Scope::deserialize(const std::string& text) {
-  // Seven characters: "Scope(" and the blank behind it.
-  std::istringstream in(framedText(text, "Scope(", ")Scope", 7));
   Address address;
   std::string keyHex;
   unsigned long number1 = 0;
   unsigned long number2 = 0;
-  in >> address;
-  readPart(in, keyHex);
-  readPart(in, number1);
-  readPart(in, number2);
+  AddressType mode = 0;
+  AddressSize width = 0;
+  unsigned long long segment = 0, offset = 0, aux = 0;
+  StoredText form{text.data(), text.data() + text.size()};
+  if (form.literal("Scope( ") &&
+      form.address(mode, width, segment, offset, aux) && form.literal(" ") &&
+      form.hexWord(keyHex) && form.literal(" ") && form.number(number1, 10) &&
+      form.literal(" ") && form.number(number2, 10) &&
+      form.literal(" )Scope") && form.p == form.end) {
+    // An address out of range is left at its default, as the stream's
+    // reading leaves it.
+    if (mode < 4 && width >= 8 && width <= 128)
+      address = Address(segment, offset, aux, mode, width);
+  } else {
+    keyHex.clear();
+    number1 = number2 = 0;
+    // Seven characters: "Scope(" and the blank behind it.
+    std::istringstream in(framedText(text, "Scope(", ")Scope", 7));
+    in >> address;
+    readPart(in, keyHex);
+    readPart(in, number1);
+    readPart(in, number2);
+  }
 
   // An odd-length word does not decode and gives the empty key. A text that
   // lacks its NUL gives all decoded bytes.

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <map>
 #include <memory>
@@ -360,3 +361,136 @@ TEST(ValueTypesRobustnessTest, RandomTexts) {
 }
 
 } // namespace
+
+// The stored texts of addresses and scopes are read without a stream when
+// they have the exact form the writers make, and through a stream otherwise.
+// The reference below is the stream reading alone; both must agree on every
+// text, exact, damaged or foreign.
+namespace {
+
+template <class T> void referencePart(std::istream& in, T& part) {
+  T value{};
+  if (in >> value)
+    part = value;
+}
+
+std::string referenceFrame(const std::string& text, const char* opening,
+                           const char* closing, std::string::size_type skip) {
+  const auto open = text.find(opening);
+  const auto close = text.find(closing);
+  if (open == std::string::npos || close == std::string::npos ||
+      close < open + skip)
+    return std::string();
+  return text.substr(open + skip, close - (open + skip));
+}
+
+bool referenceAddress(const std::string& text, Address* address) {
+  std::istringstream in(referenceFrame(text, "Address(", ")Address", 8));
+  AddressType mode = 4;
+  AddressSize width = 32;
+  unsigned long long segment = 0, offset = 0, aux = 0;
+  referencePart(in, mode);
+  referencePart(in, width);
+  in >> std::hex;
+  referencePart(in, segment);
+  referencePart(in, offset);
+  referencePart(in, aux);
+  if (mode >= 4 || width < 8 || width > 128)
+    return false;
+  *address = Address(segment, offset, aux, mode, width);
+  return true;
+}
+
+std::string referenceScope(const std::string& text) {
+  std::istringstream in(referenceFrame(text, "Scope(", ")Scope", 7));
+  std::string joined, word, keyHex;
+  for (int i = 0; i < 7 && in >> word; ++i)
+    joined += (i != 0 ? " " : "") + word;
+  Address address;
+  referenceAddress(joined, &address);
+  unsigned long number1 = 0, number2 = 0;
+  referencePart(in, keyHex);
+  referencePart(in, number1);
+  referencePart(in, number2);
+  std::vector<unsigned char> bytes(keyHex.size() / 2);
+  std::string keyText;
+  if (HexDumpHelper::convertHexToBin(keyHex, bytes.data()))
+    keyText.assign(bytes.begin(), std::find(bytes.begin(), bytes.end(), 0));
+  std::string addressText;
+  address.serialize(addressText);
+  return addressText + "|" + DbgDataKey(keyText).toString() + "|" +
+         std::to_string(number1) + "|" + std::to_string(number2);
+}
+
+// What a scope read holds, in the reference's terms.
+std::string readScope(const std::string& text) {
+  Scope scope;
+  scope.deserialize(text);
+  std::string addressText;
+  scope.getAddress().serialize(addressText);
+  return addressText + "|" + scope.getKey().toString() + "|" +
+         std::to_string(scope.getNumber1()) + "|" +
+         std::to_string(scope.getNumber2());
+}
+
+std::string mutated(std::string text, std::mt19937& random) {
+  static const char kPieces[] = " \t\n+-x0fF9aZ()A";
+  const int edits = 1 + random() % 3;
+  for (int e = 0; e < edits && !text.empty(); ++e) {
+    const std::size_t at = random() % text.size();
+    const char piece = kPieces[random() % (sizeof kPieces - 1)];
+    switch (random() % 4) {
+    case 0:
+      text[at] = piece;
+      break;
+    case 1:
+      text.insert(at, 1, piece);
+      break;
+    case 2:
+      text.erase(at, 1);
+      break;
+    default:
+      text.resize(at);
+      break;
+    }
+  }
+  return text;
+}
+
+} // namespace
+
+TEST(StoredTextTest, FastReadingAgreesWithTheStreamOnEveryText) {
+  std::mt19937 random(20261123);
+  const Address addresses[] = {Address(),
+                               Address(0x10, 0x401000, 0, 2, 64),
+                               Address(~0ull, ~0ull, ~0ull, 3, 128),
+                               Address(0, 0, 0, 0, 8),
+                               Address(1, 2, 3, 4, 32),
+                               Address(1, 2, 3, 1, 7)};
+  const char* keys[] = {"", "/Root/Stack/f1", "/a b/(x)/c"};
+  int exact = 0;
+  for (int round = 0; round < 4000; ++round) {
+    const Address& address = addresses[round % 6];
+    std::string addressText;
+    address.serialize(addressText);
+    Scope scope(address, DbgDataKey(keys[round % 3]), round * 977ul,
+                round % 5 == 0 ? ~0ul : round);
+    std::string scopeText;
+    scope.serialize(scopeText);
+    const bool keep = round % 4 == 0;
+    exact += keep;
+    for (const std::string& text :
+         {keep ? addressText : mutated(addressText, random),
+          keep ? scopeText : mutated(scopeText, random)}) {
+      SCOPED_TRACE(text);
+      Address expected(7, 7, 7, 1, 16), actual(7, 7, 7, 1, 16);
+      EXPECT_EQ(actual.deserialize(text), referenceAddress(text, &expected));
+      std::string a, b;
+      actual.serialize(a);
+      expected.serialize(b);
+      EXPECT_EQ(a, b);
+      EXPECT_EQ(readScope(text), referenceScope(text));
+    }
+  }
+  EXPECT_EQ(exact, 1000);
+}
