@@ -22,7 +22,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -91,6 +90,7 @@ private:
     std::uint32_t attributeBytes; // of all ' name="value"' texts
     std::uint32_t values;         // the first child named "values", or None
     bool hasChildren;
+    bool indexed; // its attributes are in m_keySlots
   };
   struct Attribute {
     std::uint32_t name;
@@ -113,7 +113,13 @@ private:
     std::string text;
     std::uint32_t name;
   };
-  struct KeyIndex;
+  // A slot of the key index: an attribute of an element with many keys,
+  // found by element and name (element None: a free slot).
+  struct KeySlot {
+    std::uint32_t element;
+    std::uint32_t name;
+    std::uint32_t attribute;
+  };
 
   // The index of a name (taken up to its first zero byte, ill-formed UTF-8
   // repaired), through a small cache; None when it is no XML name.
@@ -124,6 +130,11 @@ private:
   bool setAttribute(std::uint32_t element, const std::string& key,
                     const char* value, std::size_t size);
   bool setValue(const std::string& key, const char* value, std::size_t size);
+  // The key index: the slot of (element, name), or the free slot where it
+  // goes; and the insertion of an attribute, growing the table as needed.
+  KeySlot& keySlot(std::uint32_t element, std::uint32_t name);
+  void indexKey(std::uint32_t element, std::uint32_t name,
+                std::uint32_t attribute);
   bool setValue(const std::string& key, const std::string& value);
   void writeText() const;
 
@@ -136,8 +147,11 @@ private:
   std::vector<std::uint32_t> m_focus;
   std::vector<NameCacheEntry> m_nameCache;
   std::uint32_t m_valuesName = None;
-  // Key lookup for elements with many attributes, by element.
-  std::unordered_map<std::uint32_t, std::unique_ptr<KeyIndex>> m_keyIndexes;
+  // Key lookup for elements with many attributes: one open-addressing
+  // table for the whole document (a power of two in size, at most half
+  // full), so that such elements cost no allocation of their own.
+  std::vector<KeySlot> m_keySlots;
+  std::size_t m_keyCount = 0;
   mutable std::string m_text;
   mutable bool m_textValid = false;
   mutable std::vector<std::uint32_t> m_sorted;

@@ -33,6 +33,31 @@ struct EscapeTable {
 };
 const EscapeTable kEscape;
 
+// The first byte from p on that needs escaping (or end). Eight bytes at a
+// time while none of them is below 0x20, at or above 0x80, '&', '<' or '"':
+// long values (hex dumps) are mostly such bytes.
+Ptr skipPlain(Ptr p, Ptr end) {
+  constexpr std::uint64_t kOnes = 0x0101010101010101ull;
+  constexpr std::uint64_t kHighs = 0x8080808080808080ull;
+  const auto hasZeroByte = [](std::uint64_t x) {
+    return (x - kOnes) & ~x & kHighs;
+  };
+  while (end - p >= 8) {
+    std::uint64_t x;
+    std::memcpy(&x, p, 8);
+    const std::uint64_t found =
+        (x & kHighs) | ((x - 0x20 * kOnes) & ~x & kHighs) |
+        hasZeroByte(x ^ ('&' * kOnes)) | hasZeroByte(x ^ ('<' * kOnes)) |
+        hasZeroByte(x ^ ('"' * kOnes));
+    if (found)
+      break;
+    p += 8;
+  }
+  while (p < end && !kEscape.special[*p])
+    ++p;
+  return p;
+}
+
 // Appends value, up to its first zero byte, to out as the XML library's text
 // writer writes an attribute value; false for a character XML 1.0 cannot
 // carry.
@@ -42,8 +67,7 @@ bool appendEscaped(const char* value, std::size_t size, std::string& out) {
   Ptr p = begin;
   while (p < end) {
     const Ptr run = p;
-    while (p < end && !kEscape.special[*p])
-      ++p;
+    p = skipPlain(p, end);
     out.append(reinterpret_cast<const char*>(run),
                static_cast<std::size_t>(p - run));
     if (p >= end)
@@ -168,10 +192,6 @@ struct Cursor {
 
 } // namespace
 
-struct SerializerHelperXmlText::KeyIndex {
-  std::unordered_map<std::uint32_t, std::uint32_t> attributes; // by name
-};
-
 SerializerHelperXmlText::SerializerHelperXmlText(bool indent)
     : m_indent(indent) {
   reset();
@@ -187,14 +207,15 @@ void SerializerHelperXmlText::reset() {
   m_pool.clear();
   m_focus.clear();
   m_nameCache.assign(kNameCacheSize, NameCacheEntry{std::string(), None});
-  m_keyIndexes.clear();
+  m_keySlots.assign(m_keySlots.size(), KeySlot{None, None, None});
+  m_keyCount = 0;
   m_text.clear();
   m_textValid = false;
   static const std::string kValues("values");
   static const std::string kRoot("UserContentContainer");
   m_valuesName = internName(kValues);
   m_elements.push_back(
-      Element{internName(kRoot), 0, None, None, 0, 0, None, false});
+      Element{internName(kRoot), 0, None, None, 0, 0, None, false, false});
   m_focus.push_back(0);
 }
 
@@ -256,7 +277,8 @@ std::uint32_t SerializerHelperXmlText::appendElement(std::uint32_t parent,
   if (parentElement.values == None && name == m_valuesName)
     parentElement.values = index;
   const std::uint32_t depth = parentElement.depth + 1;
-  m_elements.push_back(Element{name, depth, None, None, 0, 0, None, false});
+  m_elements.push_back(
+      Element{name, depth, None, None, 0, 0, None, false, false});
   return index;
 }
 
@@ -305,6 +327,13 @@ bool SerializerHelperXmlText::setAttribute(std::uint32_t element,
       static_cast<std::uint32_t>(m_pool.size() - mark);
 
   Element& target = m_elements[element];
+  // The attributes' text of one element stays countable in 32 bits.
+  if (std::uint64_t(target.attributeBytes) + 4 + m_names[name].size +
+          valueSize >
+      std::numeric_limits<std::uint32_t>::max()) {
+    m_pool.resize(mark);
+    return false;
+  }
   if (target.attributeCount < kLinearKeySearch) {
     // The list is kept in the DOM's order: the key is either there or its
     // place is found on the way.
@@ -330,18 +359,17 @@ bool SerializerHelperXmlText::setAttribute(std::uint32_t element,
     if (a == None)
       target.lastAttribute = added;
   } else {
-    // Many keys: found through an index, new ones appended; the text sorts
+    // Many keys: found through the index, new ones appended; the text sorts
     // them.
-    std::unique_ptr<KeyIndex>& slot = m_keyIndexes[element];
-    if (!slot) {
-      slot.reset(new KeyIndex);
+    if (!target.indexed) {
+      target.indexed = true;
       for (std::uint32_t a = target.firstAttribute; a != None;
            a = m_attributes[a].next)
-        slot->attributes.emplace(m_attributes[a].name, a);
+        indexKey(element, m_attributes[a].name, a);
     }
-    const auto found = slot->attributes.find(name);
-    if (found != slot->attributes.end()) {
-      Attribute& attribute = m_attributes[found->second];
+    const KeySlot& slot = keySlot(element, name);
+    if (slot.element != None) {
+      Attribute& attribute = m_attributes[slot.attribute];
       target.attributeBytes += valueSize - attribute.valueSize;
       attribute.value = valueOffset;
       attribute.valueSize = valueSize;
@@ -351,11 +379,42 @@ bool SerializerHelperXmlText::setAttribute(std::uint32_t element,
     m_attributes.push_back(Attribute{name, valueOffset, valueSize, None});
     m_attributes[target.lastAttribute].next = added;
     target.lastAttribute = added;
-    slot->attributes.emplace(name, added);
+    indexKey(element, name, added);
   }
   ++target.attributeCount;
   target.attributeBytes += 4 + m_names[name].size + valueSize;
   return true;
+}
+
+SerializerHelperXmlText::KeySlot&
+SerializerHelperXmlText::keySlot(std::uint32_t element, std::uint32_t name) {
+  const std::size_t mask = m_keySlots.size() - 1;
+  std::size_t i =
+      static_cast<std::size_t>(
+          ((std::uint64_t(element) << 32 | name) * 0x9E3779B97F4A7C15ull) >>
+          32) &
+      mask;
+  while (m_keySlots[i].element != None &&
+         (m_keySlots[i].element != element || m_keySlots[i].name != name))
+    i = (i + 1) & mask;
+  return m_keySlots[i];
+}
+
+void SerializerHelperXmlText::indexKey(std::uint32_t element,
+                                       std::uint32_t name,
+                                       std::uint32_t attribute) {
+  if (2 * (m_keyCount + 1) > m_keySlots.size()) {
+    std::vector<KeySlot> old(std::max<std::size_t>(64, 2 * m_keySlots.size()),
+                             KeySlot{None, None, None});
+    old.swap(m_keySlots);
+    for (const KeySlot& slot : old)
+      if (slot.element != None)
+        keySlot(slot.element, slot.name) = slot;
+  }
+  KeySlot& slot = keySlot(element, name);
+  if (slot.element == None)
+    ++m_keyCount;
+  slot = KeySlot{element, name, attribute};
 }
 
 bool SerializerHelperXmlText::setValue(const std::string& key,
