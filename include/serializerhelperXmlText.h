@@ -90,7 +90,6 @@ private:
     std::uint32_t attributeBytes; // of all ' name="value"' texts
     std::uint32_t values;         // the first child named "values", or None
     bool hasChildren;
-    bool indexed; // its attributes are in m_keySlots
   };
   struct Attribute {
     std::uint32_t name;
@@ -106,19 +105,16 @@ private:
     // The first eight bytes, ordered as the DOM orders names: two names
     // whose keys differ are ordered by their keys.
     std::uint64_t sortKey;
+    // The attribute of this name in m_stampedElement, if it has one:
+    // stampElement equals m_stampedElement exactly then.
+    std::uint32_t stampElement;
+    std::uint32_t stampAttribute;
   };
   // The last text looked up in one slot of the name cache: the text as
   // given, and its name's index (None: no XML name).
   struct NameCacheEntry {
     std::string text;
     std::uint32_t name;
-  };
-  // A slot of the key index: an attribute of an element with many keys,
-  // found by element and name (element None: a free slot).
-  struct KeySlot {
-    std::uint32_t element;
-    std::uint32_t name;
-    std::uint32_t attribute;
   };
 
   // The index of a name (taken up to its first zero byte, ill-formed UTF-8
@@ -130,11 +126,8 @@ private:
   bool setAttribute(std::uint32_t element, const std::string& key,
                     const char* value, std::size_t size);
   bool setValue(const std::string& key, const char* value, std::size_t size);
-  // The key index: the slot of (element, name), or the free slot where it
-  // goes; and the insertion of an attribute, growing the table as needed.
-  KeySlot& keySlot(std::uint32_t element, std::uint32_t name);
-  void indexKey(std::uint32_t element, std::uint32_t name,
-                std::uint32_t attribute);
+  // Makes element the one whose keys the names' stamps tell.
+  void stampKeysOf(std::uint32_t element);
   bool setValue(const std::string& key, const std::string& value);
   void writeText() const;
 
@@ -147,11 +140,12 @@ private:
   std::vector<std::uint32_t> m_focus;
   std::vector<NameCacheEntry> m_nameCache;
   std::uint32_t m_valuesName = None;
-  // Key lookup for elements with many attributes: one open-addressing
-  // table for the whole document (a power of two in size, at most half
-  // full), so that such elements cost no allocation of their own.
-  std::vector<KeySlot> m_keySlots;
-  std::size_t m_keyCount = 0;
+  // Key lookup for an element with many attributes: the names stamp where
+  // that element has them. One element at a time is stamped, the last one
+  // written to; values of an element are written one after the other, so
+  // the stamps are made again only when an earlier element is written to
+  // again after another one.
+  std::uint32_t m_stampedElement = None;
   mutable std::string m_text;
   mutable bool m_textValid = false;
   mutable std::vector<std::uint32_t> m_sorted;

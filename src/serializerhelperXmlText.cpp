@@ -207,15 +207,14 @@ void SerializerHelperXmlText::reset() {
   m_pool.clear();
   m_focus.clear();
   m_nameCache.assign(kNameCacheSize, NameCacheEntry{std::string(), None});
-  m_keySlots.assign(m_keySlots.size(), KeySlot{None, None, None});
-  m_keyCount = 0;
+  m_stampedElement = None;
   m_text.clear();
   m_textValid = false;
   static const std::string kValues("values");
   static const std::string kRoot("UserContentContainer");
   m_valuesName = internName(kValues);
   m_elements.push_back(
-      Element{internName(kRoot), 0, None, None, 0, 0, None, false, false});
+      Element{internName(kRoot), 0, None, None, 0, 0, None, false});
   m_focus.push_back(0);
 }
 
@@ -237,7 +236,7 @@ std::uint32_t SerializerHelperXmlText::internName(const std::string& text) {
       index = static_cast<std::uint32_t>(m_names.size());
       m_names.push_back(Name{static_cast<std::uint32_t>(m_pool.size()),
                              static_cast<std::uint32_t>(name.size()),
-                             sortKeyOf(name.data(), name.size())});
+                             sortKeyOf(name.data(), name.size()), None, None});
       m_pool += '<';
       m_pool += name;
       m_pool += "</";
@@ -277,8 +276,7 @@ std::uint32_t SerializerHelperXmlText::appendElement(std::uint32_t parent,
   if (parentElement.values == None && name == m_valuesName)
     parentElement.values = index;
   const std::uint32_t depth = parentElement.depth + 1;
-  m_elements.push_back(
-      Element{name, depth, None, None, 0, 0, None, false, false});
+  m_elements.push_back(Element{name, depth, None, None, 0, 0, None, false});
   return index;
 }
 
@@ -359,17 +357,12 @@ bool SerializerHelperXmlText::setAttribute(std::uint32_t element,
     if (a == None)
       target.lastAttribute = added;
   } else {
-    // Many keys: found through the index, new ones appended; the text sorts
-    // them.
-    if (!target.indexed) {
-      target.indexed = true;
-      for (std::uint32_t a = target.firstAttribute; a != None;
-           a = m_attributes[a].next)
-        indexKey(element, m_attributes[a].name, a);
-    }
-    const KeySlot& slot = keySlot(element, name);
-    if (slot.element != None) {
-      Attribute& attribute = m_attributes[slot.attribute];
+    // Many keys: found through the names' stamps, new ones appended; the
+    // text sorts them.
+    stampKeysOf(element);
+    Name& stamp = m_names[name];
+    if (stamp.stampElement == element) {
+      Attribute& attribute = m_attributes[stamp.stampAttribute];
       target.attributeBytes += valueSize - attribute.valueSize;
       attribute.value = valueOffset;
       attribute.valueSize = valueSize;
@@ -379,42 +372,24 @@ bool SerializerHelperXmlText::setAttribute(std::uint32_t element,
     m_attributes.push_back(Attribute{name, valueOffset, valueSize, None});
     m_attributes[target.lastAttribute].next = added;
     target.lastAttribute = added;
-    indexKey(element, name, added);
+    stamp.stampElement = element;
+    stamp.stampAttribute = added;
   }
   ++target.attributeCount;
   target.attributeBytes += 4 + m_names[name].size + valueSize;
   return true;
 }
 
-SerializerHelperXmlText::KeySlot&
-SerializerHelperXmlText::keySlot(std::uint32_t element, std::uint32_t name) {
-  const std::size_t mask = m_keySlots.size() - 1;
-  std::size_t i =
-      static_cast<std::size_t>(
-          ((std::uint64_t(element) << 32 | name) * 0x9E3779B97F4A7C15ull) >>
-          32) &
-      mask;
-  while (m_keySlots[i].element != None &&
-         (m_keySlots[i].element != element || m_keySlots[i].name != name))
-    i = (i + 1) & mask;
-  return m_keySlots[i];
-}
-
-void SerializerHelperXmlText::indexKey(std::uint32_t element,
-                                       std::uint32_t name,
-                                       std::uint32_t attribute) {
-  if (2 * (m_keyCount + 1) > m_keySlots.size()) {
-    std::vector<KeySlot> old(std::max<std::size_t>(64, 2 * m_keySlots.size()),
-                             KeySlot{None, None, None});
-    old.swap(m_keySlots);
-    for (const KeySlot& slot : old)
-      if (slot.element != None)
-        keySlot(slot.element, slot.name) = slot;
+void SerializerHelperXmlText::stampKeysOf(std::uint32_t element) {
+  if (m_stampedElement == element)
+    return;
+  m_stampedElement = element;
+  for (std::uint32_t a = m_elements[element].firstAttribute; a != None;
+       a = m_attributes[a].next) {
+    Name& name = m_names[m_attributes[a].name];
+    name.stampElement = element;
+    name.stampAttribute = a;
   }
-  KeySlot& slot = keySlot(element, name);
-  if (slot.element == None)
-    ++m_keyCount;
-  slot = KeySlot{element, name, attribute};
 }
 
 bool SerializerHelperXmlText::setValue(const std::string& key,

@@ -231,6 +231,33 @@ TEST(XmlTextWriter, EscapesAndRepairsValuesAsTheDomPathDoes) {
   }
 }
 
+// Elements with many keys find a key written before through the names'
+// stamps, which one element holds at a time: going back to an element
+// after writing the same keys into its child must still find its own.
+TEST(XmlTextWriter, ManyKeysWrittenAgainAfterAChildKeepTheLastValue) {
+  const auto calls = [](ISerializerHelper& writer) {
+    bool answer = writer.pushSection("DataElement");
+    const auto keys = [&](const char* prefix) {
+      for (int i = 0; i < 20; ++i)
+        answer = writer.setString("k" + std::to_string(19 - i),
+                                  prefix + std::to_string(i)) &&
+                 answer;
+    };
+    keys("parent");
+    answer = writer.pushSection("DataElement") && answer;
+    keys("child");
+    answer = writer.popSection() && answer;
+    keys("again");
+    answer = writer.setString("k7", "last") && answer;
+    return writer.popSection() && answer;
+  };
+  std::string dom, fast;
+  bothWriters(calls, false, &dom, &fast);
+  EXPECT_EQ(fast, dom);
+  EXPECT_NE(fast.find(" k7=\"last\""), std::string::npos);
+  EXPECT_EQ(fast.find("parent"), std::string::npos);
+}
+
 TEST(XmlTextWriter, RefusesCharactersXmlCannotCarryWhereTheDomTextFails) {
   for (const char* value : {"\x01", "a\x1f", "\xef\xbf\xbe", "\xef\xbf\xbf"}) {
     SerializerHelperDOM dom;
