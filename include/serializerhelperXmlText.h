@@ -78,10 +78,24 @@ private:
   static const std::uint32_t None = 0xFFFFFFFFu;
 
   // Elements are kept in document order (the order they are made in is a
-  // preorder walk of the tree), attributes as lists per element. Names are
-  // interned: each distinct name is pooled once and known by its index;
-  // escaped values live in the same pool.
+  // preorder walk of the tree), attributes as lists per element in the order
+  // they were first set; writing the text puts each list in the DOM's order
+  // (by name). Names are interned: each distinct name is pooled once and
+  // known by its index.
+  //
+  // Escaped values are pooled as they are set. Writing the text moves them
+  // into it: from then on a value is read from where it stands in the text,
+  // and the pool is let go, so that the writer holds each value once.
+  // Both made in place by constructors: a temporary copied into the vector
+  // is stored in pieces and loaded whole, which stalls the processor.
   struct Element {
+    Element(std::uint32_t name, std::uint32_t depth)
+        : textOffset(0), name(name), depth(depth), firstAttribute(None),
+          lastAttribute(None), attributeCount(0), attributeBytes(0),
+          values(None), hasChildren(false) {}
+    // Where the element's attributes start in m_text (after "<name"), once
+    // a text holds it.
+    std::uint64_t textOffset;
     std::uint32_t name;
     std::uint32_t depth; // 0 for the document element
     std::uint32_t firstAttribute;
@@ -92,29 +106,42 @@ private:
     bool hasChildren;
   };
   struct Attribute {
-    std::uint32_t name;
-    std::uint32_t value; // offset in m_pool
+    Attribute(std::uint32_t name, std::uint32_t value, std::uint32_t valueSize,
+              std::uint32_t next)
+        : name(name), inText(0), value(value), valueSize(valueSize),
+          next(next) {}
+    // Names number fewer than 2^31: each takes at least ten bytes of a
+    // pool that stays below 4 GiB.
+    std::uint32_t name : 31;
+    std::uint32_t inText : 1;
+    // Offset in m_pool or, when inText, from the element's textOffset.
+    std::uint32_t value;
     std::uint32_t valueSize;
     std::uint32_t next;
   };
   // In the pool a name stands as "<name</name> name=\"", the three forms
   // in which the text carries it.
   struct Name {
-    std::uint32_t offset; // of the block in m_pool
+    std::uint32_t offset; // of the block in m_names' pool
     std::uint32_t size;   // of the name
     // The first eight bytes, ordered as the DOM orders names: two names
     // whose keys differ are ordered by their keys.
     std::uint64_t sortKey;
+    // The name's place among all names in the DOM's order; known for the
+    // names made before the last text.
+    std::uint32_t rank;
     // The attribute of this name in m_stampedElement, if it has one:
     // stampElement equals m_stampedElement exactly then.
     std::uint32_t stampElement;
     std::uint32_t stampAttribute;
   };
-  // The last text looked up in one slot of the name cache: the text as
-  // given, and its name's index (None: no XML name).
+  // A text looked up lately, when it is at most kCachedText bytes long: the
+  // text as given, and its name's index (None: no XML name).
+  static const std::size_t kCachedText = 32;
   struct NameCacheEntry {
-    std::string text;
+    std::uint32_t size; // None: the entry is empty
     std::uint32_t name;
+    char text[kCachedText];
   };
 
   // The index of a name (taken up to its first zero byte, ill-formed UTF-8
@@ -129,14 +156,21 @@ private:
   // Makes element the one whose keys the names' stamps tell.
   void stampKeysOf(std::uint32_t element);
   bool setValue(const std::string& key, const std::string& value);
+  // Ranks the names made since the last text.
+  void rankNames() const;
+  // Links the attributes of element in the DOM's order.
+  void sortAttributes(Element& element) const;
   void writeText() const;
 
   bool m_indent;
-  std::vector<Element> m_elements;
-  std::vector<Attribute> m_attributes;
-  std::vector<Name> m_names;
+  // Writing the text reorders the lists and moves the values: what the
+  // writer holds stays the same.
+  mutable std::vector<Element> m_elements;
+  mutable std::vector<Attribute> m_attributes;
+  mutable std::vector<Name> m_names;
+  std::string m_namePool;
   std::unordered_map<std::string, std::uint32_t> m_nameIndex;
-  std::string m_pool;
+  mutable std::string m_pool;
   std::vector<std::uint32_t> m_focus;
   std::vector<NameCacheEntry> m_nameCache;
   std::uint32_t m_valuesName = None;
@@ -146,6 +180,7 @@ private:
   // the stamps are made again only when an earlier element is written to
   // again after another one.
   std::uint32_t m_stampedElement = None;
+  mutable std::uint32_t m_rankedNames = 0;
   mutable std::string m_text;
   mutable bool m_textValid = false;
   mutable std::vector<std::uint32_t> m_sorted;

@@ -9,6 +9,10 @@
 #include <cstring>
 #include <limits>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace Vemo {
 namespace DbgData {
 
@@ -16,8 +20,10 @@ namespace {
 
 const char kDeclaration[] =
     "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"no\" ?>";
-const std::size_t kNameCacheSize = 256;
-// Elements with more attributes than this find a key through a hash index.
+// The name cache: sets of two entries, the one used last first.
+const std::size_t kNameCacheSets = 256;
+// Elements with more attributes than this find a key through the names'
+// stamps rather than by a walk along their list.
 const std::uint32_t kLinearKeySearch = 12;
 
 typedef const unsigned char* Ptr;
@@ -33,10 +39,39 @@ struct EscapeTable {
 };
 const EscapeTable kEscape;
 
-// The first byte from p on that needs escaping (or end). Eight bytes at a
-// time while none of them is below 0x20, at or above 0x80, '&', '<' or '"':
-// long values (hex dumps) are mostly such bytes.
+// The first byte from p on that needs escaping (or end). Sixteen bytes (with
+// SSE2), then eight at a time while none of them is below 0x20, at or above
+// 0x80, '&', '<' or '"': long values (hex dumps) are mostly such bytes, and
+// so are most short ones.
 Ptr skipPlain(Ptr p, Ptr end) {
+#if defined(__SSE2__)
+  // As signed bytes, the control characters and every byte from 0x80 up
+  // are the ones below 0x20.
+  const __m128i blank = _mm_set1_epi8(0x20);
+  const __m128i amp = _mm_set1_epi8('&');
+  const __m128i lt = _mm_set1_epi8('<');
+  const __m128i quot = _mm_set1_epi8('"');
+  const auto hits = [&](Ptr at) {
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+    return _mm_or_si128(
+        _mm_or_si128(_mm_cmplt_epi8(bytes, blank), _mm_cmpeq_epi8(bytes, amp)),
+        _mm_or_si128(_mm_cmpeq_epi8(bytes, lt), _mm_cmpeq_epi8(bytes, quot)));
+  };
+  // Sixty-four bytes a round while they are all plain, then sixteen.
+  while (end - p >= 64) {
+    const __m128i any = _mm_or_si128(_mm_or_si128(hits(p), hits(p + 16)),
+                                     _mm_or_si128(hits(p + 32), hits(p + 48)));
+    if (_mm_movemask_epi8(any) != 0)
+      break;
+    p += 64;
+  }
+  while (end - p >= 16) {
+    const int mask = _mm_movemask_epi8(hits(p));
+    if (mask != 0)
+      return p + __builtin_ctz(static_cast<unsigned>(mask));
+    p += 16;
+  }
+#endif
   constexpr std::uint64_t kOnes = 0x0101010101010101ull;
   constexpr std::uint64_t kHighs = 0x8080808080808080ull;
   const auto hasZeroByte = [](std::uint64_t x) {
@@ -155,13 +190,60 @@ std::uint64_t sortKeyOf(const char* name, std::size_t size) {
   return key;
 }
 
-std::size_t cacheSlot(const char* text, std::size_t size) {
-  if (size == 0)
-    return 0;
-  const unsigned char first = static_cast<unsigned char>(text[0]);
-  const unsigned char last = static_cast<unsigned char>(text[size - 1]);
-  const unsigned char middle = static_cast<unsigned char>(text[size / 2]);
-  return (size * 131 + first * 31 + middle * 7 + last) % kNameCacheSize;
+// Whether the size bytes at a and b are the same: short texts (names) are
+// compared in two or three overlapping loads rather than through a call.
+inline bool sameBytes(const char* a, const char* b, std::size_t size) {
+  if (size >= 8) {
+    if (size > 24)
+      return std::memcmp(a, b, size) == 0;
+    std::uint64_t x[3], y[3];
+    std::memcpy(&x[0], a, 8);
+    std::memcpy(&y[0], b, 8);
+    std::memcpy(&x[1], a + size - 8, 8);
+    std::memcpy(&y[1], b + size - 8, 8);
+    x[2] = y[2] = 0;
+    if (size > 16) {
+      std::memcpy(&x[2], a + 8, 8);
+      std::memcpy(&y[2], b + 8, 8);
+    }
+    return ((x[0] ^ y[0]) | (x[1] ^ y[1]) | (x[2] ^ y[2])) == 0;
+  }
+  if (size >= 4) {
+    std::uint32_t x[2], y[2];
+    std::memcpy(&x[0], a, 4);
+    std::memcpy(&y[0], b, 4);
+    std::memcpy(&x[1], a + size - 4, 4);
+    std::memcpy(&y[1], b + size - 4, 4);
+    return ((x[0] ^ y[0]) | (x[1] ^ y[1])) == 0;
+  }
+  for (std::size_t i = 0; i < size; ++i)
+    if (a[i] != b[i])
+      return false;
+  return true;
+}
+
+// The set of the name cache for a text: a hash of its size and its first and
+// last eight bytes.
+std::size_t cacheSet(const char* text, std::size_t size) {
+  std::uint64_t head = 0, tail = 0;
+  if (size >= 8) {
+    std::memcpy(&head, text, 8);
+    std::memcpy(&tail, text + size - 8, 8);
+  } else if (size >= 4) {
+    std::uint32_t first, last;
+    std::memcpy(&first, text, 4);
+    std::memcpy(&last, text + size - 4, 4);
+    head = first | std::uint64_t(last) << 32;
+  } else if (size > 0) {
+    const auto byte = [text](std::size_t i) {
+      return std::uint64_t(static_cast<unsigned char>(text[i]));
+    };
+    head = byte(0) | byte(size / 2) << 8 | byte(size - 1) << 16;
+  }
+  const std::uint64_t hash = (head * 0x9E3779B97F4A7C15ull) ^
+                             (tail * 0xC2B2AE3D27D4EB4Full) ^
+                             (size * 0x165667B19E3779F9ull);
+  return static_cast<std::size_t>(hash >> 56) % kNameCacheSets;
 }
 
 // Writes into a buffer sized beforehand. Short pieces (most of them) are
@@ -203,26 +285,33 @@ void SerializerHelperXmlText::reset() {
   m_elements.clear();
   m_attributes.clear();
   m_names.clear();
+  m_namePool.clear();
   m_nameIndex.clear();
-  m_pool.clear();
+  std::string().swap(m_pool);
   m_focus.clear();
-  m_nameCache.assign(kNameCacheSize, NameCacheEntry{std::string(), None});
+  m_nameCache.assign(2 * kNameCacheSets, NameCacheEntry{None, None, {}});
   m_stampedElement = None;
-  m_text.clear();
+  m_rankedNames = 0;
+  std::string().swap(m_text);
   m_textValid = false;
   static const std::string kValues("values");
   static const std::string kRoot("UserContentContainer");
   m_valuesName = internName(kValues);
-  m_elements.push_back(
-      Element{internName(kRoot), 0, None, None, 0, 0, None, false});
+  m_elements.emplace_back(internName(kRoot), 0);
   m_focus.push_back(0);
 }
 
 std::uint32_t SerializerHelperXmlText::internName(const std::string& text) {
-  NameCacheEntry& entry = m_nameCache[cacheSlot(text.data(), text.size())];
-  if (entry.text.size() == text.size() &&
-      std::memcmp(entry.text.data(), text.data(), text.size()) == 0)
-    return entry.name;
+  const std::size_t size = text.size();
+  NameCacheEntry* const set = &m_nameCache[2 * cacheSet(text.data(), size)];
+  if (size <= kCachedText) {
+    if (set[0].size == size && sameBytes(set[0].text, text.data(), size))
+      return set[0].name;
+    if (set[1].size == size && sameBytes(set[1].text, text.data(), size)) {
+      std::swap(set[0], set[1]);
+      return set[0].name;
+    }
+  }
 
   std::string name;
   appendRepairedUtf8(text.data(), textLength(text), &name);
@@ -231,24 +320,30 @@ std::uint32_t SerializerHelperXmlText::internName(const std::string& text) {
     const auto found = m_nameIndex.find(name);
     if (found != m_nameIndex.end()) {
       index = found->second;
-    } else if (m_pool.size() + 3 * name.size() + 7 <=
+    } else if (m_namePool.size() + 3 * name.size() + 7 <=
                std::numeric_limits<std::uint32_t>::max()) {
       index = static_cast<std::uint32_t>(m_names.size());
-      m_names.push_back(Name{static_cast<std::uint32_t>(m_pool.size()),
+      m_names.push_back(Name{static_cast<std::uint32_t>(m_namePool.size()),
                              static_cast<std::uint32_t>(name.size()),
-                             sortKeyOf(name.data(), name.size()), None, None});
-      m_pool += '<';
-      m_pool += name;
-      m_pool += "</";
-      m_pool += name;
-      m_pool += "> ";
-      m_pool += name;
-      m_pool += "=\"";
+                             sortKeyOf(name.data(), name.size()), None, None,
+                             None});
+      m_namePool += '<';
+      m_namePool += name;
+      m_namePool += "</";
+      m_namePool += name;
+      m_namePool += "> ";
+      m_namePool += name;
+      m_namePool += "=\"";
       m_nameIndex.emplace(std::move(name), index);
     }
   }
-  entry.text = text;
-  entry.name = index;
+  // The text becomes the first entry of its set, the first one the second.
+  if (size <= kCachedText) {
+    set[1] = set[0];
+    set[0].size = static_cast<std::uint32_t>(size);
+    set[0].name = index;
+    std::memcpy(set[0].text, text.data(), size);
+  }
   return index;
 }
 
@@ -257,7 +352,7 @@ bool SerializerHelperXmlText::nameLess(std::uint32_t a, std::uint32_t b) const {
   const Name& y = m_names[b];
   if (x.sortKey != y.sortKey)
     return x.sortKey < y.sortKey;
-  const char* const pool = m_pool.data();
+  const char* const pool = m_namePool.data();
   const std::size_t common = std::min(x.size, y.size);
   for (std::size_t i = 8; i < common; ++i) {
     const unsigned char cx = static_cast<unsigned char>(pool[x.offset + 1 + i]);
@@ -276,7 +371,7 @@ std::uint32_t SerializerHelperXmlText::appendElement(std::uint32_t parent,
   if (parentElement.values == None && name == m_valuesName)
     parentElement.values = index;
   const std::uint32_t depth = parentElement.depth + 1;
-  m_elements.push_back(Element{name, depth, None, None, 0, 0, None, false});
+  m_elements.emplace_back(name, depth);
   return index;
 }
 
@@ -333,8 +428,8 @@ bool SerializerHelperXmlText::setAttribute(std::uint32_t element,
     return false;
   }
   if (target.attributeCount < kLinearKeySearch) {
-    // The list is kept in the DOM's order: the key is either there or its
-    // place is found on the way.
+    // A short list is kept in the DOM's order: the key is either there or
+    // its place is found on the way.
     std::uint32_t before = None;
     std::uint32_t a = target.firstAttribute;
     for (; a != None; before = a, a = m_attributes[a].next) {
@@ -343,13 +438,14 @@ bool SerializerHelperXmlText::setAttribute(std::uint32_t element,
         target.attributeBytes += valueSize - attribute.valueSize;
         attribute.value = valueOffset;
         attribute.valueSize = valueSize;
+        attribute.inText = 0;
         return true;
       }
       if (nameLess(name, attribute.name))
         break;
     }
     const std::uint32_t added = static_cast<std::uint32_t>(m_attributes.size());
-    m_attributes.push_back(Attribute{name, valueOffset, valueSize, a});
+    m_attributes.emplace_back(name, valueOffset, valueSize, a);
     if (before == None)
       target.firstAttribute = added;
     else
@@ -357,8 +453,8 @@ bool SerializerHelperXmlText::setAttribute(std::uint32_t element,
     if (a == None)
       target.lastAttribute = added;
   } else {
-    // Many keys: found through the names' stamps, new ones appended; the
-    // text sorts them.
+    // A long one finds a key through the names' stamps and gets new keys at
+    // its end; the text sorts it.
     stampKeysOf(element);
     Name& stamp = m_names[name];
     if (stamp.stampElement == element) {
@@ -366,10 +462,11 @@ bool SerializerHelperXmlText::setAttribute(std::uint32_t element,
       target.attributeBytes += valueSize - attribute.valueSize;
       attribute.value = valueOffset;
       attribute.valueSize = valueSize;
+      attribute.inText = 0;
       return true;
     }
     const std::uint32_t added = static_cast<std::uint32_t>(m_attributes.size());
-    m_attributes.push_back(Attribute{name, valueOffset, valueSize, None});
+    m_attributes.emplace_back(name, valueOffset, valueSize, None);
     m_attributes[target.lastAttribute].next = added;
     target.lastAttribute = added;
     stamp.stampElement = element;
@@ -494,7 +591,56 @@ const std::string& SerializerHelperXmlText::getText() const {
   return m_text;
 }
 
+void SerializerHelperXmlText::rankNames() const {
+  if (m_rankedNames == m_names.size())
+    return;
+  m_sorted.resize(m_names.size());
+  for (std::uint32_t n = 0; n < m_sorted.size(); ++n)
+    m_sorted[n] = n;
+  std::sort(
+      m_sorted.begin(), m_sorted.end(),
+      [this](std::uint32_t a, std::uint32_t b) { return nameLess(a, b); });
+  for (std::uint32_t r = 0; r < m_sorted.size(); ++r)
+    m_names[m_sorted[r]].rank = r;
+  m_rankedNames = static_cast<std::uint32_t>(m_names.size());
+}
+
+void SerializerHelperXmlText::sortAttributes(Element& element) const {
+  // Short lists are kept sorted as they are written; long ones stay sorted
+  // once a text sorted them, until a new key comes: checked on the way.
+  if (element.attributeCount < kLinearKeySearch)
+    return;
+  bool sorted = true;
+  std::uint32_t lastRank = 0;
+  for (std::uint32_t a = element.firstAttribute; a != None;
+       a = m_attributes[a].next) {
+    const std::uint32_t rank = m_names[m_attributes[a].name].rank;
+    if (a != element.firstAttribute && rank < lastRank) {
+      sorted = false;
+      break;
+    }
+    lastRank = rank;
+  }
+  if (sorted)
+    return;
+  m_sorted.clear();
+  for (std::uint32_t a = element.firstAttribute; a != None;
+       a = m_attributes[a].next)
+    m_sorted.push_back(a);
+  std::sort(m_sorted.begin(), m_sorted.end(),
+            [this](std::uint32_t x, std::uint32_t y) {
+              return m_names[m_attributes[x].name].rank <
+                     m_names[m_attributes[y].name].rank;
+            });
+  element.firstAttribute = m_sorted.front();
+  for (std::size_t i = 1; i < m_sorted.size(); ++i)
+    m_attributes[m_sorted[i - 1]].next = m_sorted[i];
+  m_attributes[m_sorted.back()].next = None;
+  element.lastAttribute = m_sorted.back();
+}
+
 void SerializerHelperXmlText::writeText() const {
+  rankNames();
   // The exact size first, so that the text is written in one buffer. With
   // indentation, an element of depth d starts on a new line (preceded by an
   // empty line at depth 1) indented by 2d blanks, and so does the end tag of
@@ -513,9 +659,16 @@ void SerializerHelperXmlText::writeText() const {
         total += 1 + (element.depth == 0) + 2 * element.depth;
     }
   }
-  m_text.resize(total);
-  Cursor out{&m_text[0]};
+  // Written into a new buffer: the values set before the last text are
+  // taken from that text, the others from the pool. All of them are then
+  // known by where they stand in the new text, and the pool is let go.
+  std::string text;
+  text.resize(total);
+  char* const base = &text[0];
+  Cursor out{base};
+  const char* const names = m_namePool.data();
   const char* const pool = m_pool.data();
+  const char* const lastText = m_text.data();
   const auto closeElement = [&](const Element& element) {
     if (m_indent) {
       out.put('\n');
@@ -524,21 +677,14 @@ void SerializerHelperXmlText::writeText() const {
       out.blanks(2 * element.depth);
     }
     const Name& name = m_names[element.name];
-    out.put(pool + name.offset + 1 + name.size, name.size + 3); // "</name>"
-  };
-  const auto putAttribute = [&](const Attribute& attribute) {
-    const Name& name = m_names[attribute.name];
-    out.put(pool + name.offset + 2 * name.size + 4,
-            name.size + 3); // " name=\""
-    out.put(pool + attribute.value, attribute.valueSize);
-    out.put('"');
+    out.put(names + name.offset + 1 + name.size, name.size + 3); // "</name>"
   };
 
   out.put(kDeclaration, declaration);
   if (m_indent)
     out.put('\n');
   m_openElements.clear();
-  for (const Element& element : m_elements) {
+  for (Element& element : m_elements) {
     while (!m_openElements.empty() &&
            m_elements[m_openElements.back()].depth >= element.depth) {
       closeElement(m_elements[m_openElements.back()]);
@@ -551,24 +697,23 @@ void SerializerHelperXmlText::writeText() const {
       out.blanks(2 * element.depth);
     }
     const Name& name = m_names[element.name];
-    out.put(pool + name.offset, name.size + 1); // "<name"
-    // Attributes in the DOM's order: kept so in short lists, sorted here in
-    // long ones.
-    if (element.attributeCount < kLinearKeySearch) {
-      for (std::uint32_t a = element.firstAttribute; a != None;
-           a = m_attributes[a].next)
-        putAttribute(m_attributes[a]);
-    } else {
-      m_sorted.clear();
-      for (std::uint32_t a = element.firstAttribute; a != None;
-           a = m_attributes[a].next)
-        m_sorted.push_back(a);
-      std::sort(m_sorted.begin(), m_sorted.end(),
-                [&](std::uint32_t x, std::uint32_t y) {
-                  return nameLess(m_attributes[x].name, m_attributes[y].name);
-                });
-      for (std::uint32_t a : m_sorted)
-        putAttribute(m_attributes[a]);
+    out.put(names + name.offset, name.size + 1); // "<name"
+    sortAttributes(element);
+    const char* const lastAttributes = lastText + element.textOffset;
+    element.textOffset = static_cast<std::uint64_t>(out.p - base);
+    for (std::uint32_t a = element.firstAttribute; a != None;
+         a = m_attributes[a].next) {
+      Attribute& attribute = m_attributes[a];
+      const Name& key = m_names[attribute.name];
+      out.put(names + key.offset + 2 * key.size + 4,
+              key.size + 3); // " name=\""
+      const char* const value =
+          (attribute.inText ? lastAttributes : pool) + attribute.value;
+      attribute.value =
+          static_cast<std::uint32_t>(out.p - base - element.textOffset);
+      attribute.inText = 1;
+      out.put(value, attribute.valueSize);
+      out.put('"');
     }
     if (element.hasChildren) {
       out.put('>');
@@ -584,6 +729,8 @@ void SerializerHelperXmlText::writeText() const {
   }
   if (m_indent)
     out.put('\n');
+  m_text.swap(text);
+  std::string().swap(m_pool);
 }
 
 } // namespace DbgData

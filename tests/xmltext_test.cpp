@@ -374,6 +374,71 @@ TEST(XmlTextWriter, NamesOrderAndPlacementFollowTheDom) {
   EXPECT_EQ(writer.getText(), empty);
 }
 
+TEST(XmlTextWriter, AnswersTheDomTextAfterEveryCallWhenAskedBetweenWrites) {
+  // The text is asked for after each call, so values set before it are
+  // rewritten, reordered and joined by new ones afterwards: keys in falling
+  // order, each written again (on short lists and on lists long enough to
+  // be sorted as a whole), values on a parent after its children, a refused
+  // key, and long values whose characters to escape fall on either side
+  // of every sixteen-byte boundary.
+  std::vector<std::function<bool(ISerializerHelper&)>> steps;
+  const auto add = [&](std::function<bool(ISerializerHelper&)> step) {
+    steps.push_back(std::move(step));
+  };
+  add([](ISerializerHelper& w) { return w.pushSection("DataElement"); });
+  add([](ISerializerHelper& w) {
+    return w.setClassNameAndSubKey("Item", "a&b");
+  });
+  for (int round = 0; round < 3; ++round)
+    for (int i = 45; i > 0; i -= 11)
+      add([=](ISerializerHelper& w) {
+        return w.setString("k" + std::to_string(i),
+                           std::to_string(round) + "<" + std::to_string(i));
+      });
+  add([](ISerializerHelper& w) { return w.pushSection("DataElement"); });
+  for (int i = 0; i < 60; ++i)
+    add([=](ISerializerHelper& w) {
+      return w.setInt("m" + std::to_string(i * 37 % 60), i) &&
+             w.setInt("m" + std::to_string(i * 23 % 60), -i);
+    });
+  add([](ISerializerHelper& w) { return w.setString("1bad", "v"); });
+  add([](ISerializerHelper& w) { return w.popSection(); });
+  add([](ISerializerHelper& w) { return w.setString("k12", "again"); });
+  for (std::size_t at : {0, 1, 14, 15, 16, 17, 31, 32, 33, 1000})
+    add([=](ISerializerHelper& w) {
+      std::string value(1040, 'x');
+      value[at] = '"';
+      value[at + 2] = '\n';
+      value[at + 5] = '\xe9';
+      return w.setString("long", value) &&
+             w.setString("long" + std::to_string(at), value);
+    });
+  add([](ISerializerHelper& w) {
+    return w.setClassNameAndSubKey("Item2", "");
+  });
+  add([](ISerializerHelper& w) { return w.popSection(); });
+  add([](ISerializerHelper& w) { return w.pushSection("values"); });
+
+  for (bool indent : {false, true}) {
+    SerializerHelperDOM dom;
+    SerializerHelperXmlText fast(indent);
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+      SCOPED_TRACE(i);
+      EXPECT_EQ(steps[i](fast), steps[i](dom));
+      std::string text;
+      ASSERT_TRUE(writeXmlText(dom.getDocument(), indent, &text));
+      const std::string& fastText = fast.getText();
+      ASSERT_EQ(fastText, text);
+      EXPECT_EQ(&fast.getText(), &fastText); // kept until the next write
+    }
+    fast.reset();
+    SerializerHelperDOM empty;
+    std::string text;
+    ASSERT_TRUE(writeXmlText(empty.getDocument(), indent, &text));
+    EXPECT_EQ(fast.getText(), text);
+  }
+}
+
 TEST(XmlTextWriter, NamesAreTheDomsNames) {
   // Every character of the basic plane as a one-character name and as the
   // second character of a name, against the XML library's own test.
