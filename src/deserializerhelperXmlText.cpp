@@ -94,6 +94,15 @@ std::string_view lookupName(const std::string& name, std::string* scratch) {
   return *scratch;
 }
 
+// A name's size and first seven bytes: two names with different tags
+// differ, so that a search compares whole names only on equal tags.
+inline std::uint64_t nameTag(const char* name, std::size_t size) {
+  std::uint64_t tag = 0;
+  for (std::size_t i = 0; i < 7 && i < size; ++i)
+    tag |= std::uint64_t(static_cast<unsigned char>(name[i])) << (8 * i + 8);
+  return tag | (size < 0xFF ? size : 0xFF);
+}
+
 // The document for the layout check.
 struct PugiTree {
   typedef pugi::xml_node Node;
@@ -123,10 +132,15 @@ struct DeserializerHelperXmlText::Document {
   pugi::xml_document xml;
   pugi::xml_node root;
   std::vector<pugi::xml_node> objects;
-  // The attributes of the "values" element read last, as pairs of name and
-  // value; by name as well when there are many of them.
+  // The attributes of the "values" element read last, with the tags of
+  // their names; by name as well when there are many of them.
   pugi::xml_node cached;
-  std::vector<std::pair<const char*, const char*>> attributes;
+  struct Attribute {
+    std::uint64_t tag;
+    const char* name;
+    const char* value;
+  };
+  std::vector<Attribute> attributes;
   std::unordered_map<std::string_view, const char*> index;
 };
 
@@ -326,15 +340,19 @@ const char* DeserializerHelperXmlText::valueText(const std::string& key) const {
     document.index.clear();
     for (pugi::xml_attribute attribute = values.first_attribute(); attribute;
          attribute = attribute.next_attribute())
-      document.attributes.emplace_back(attribute.name(), attribute.value());
+      document.attributes.push_back(Document::Attribute{
+          nameTag(attribute.name(), std::strlen(attribute.name())),
+          attribute.name(), attribute.value()});
     if (document.attributes.size() > kLinearKeySearch)
       for (const auto& attribute : document.attributes)
-        document.index.emplace(attribute.first, attribute.second);
+        document.index.emplace(attribute.name, attribute.value);
   }
   if (document.index.empty()) {
+    const std::uint64_t tag = nameTag(wanted.data(), wanted.size());
     for (const auto& attribute : document.attributes)
-      if (nameIs(attribute.first, wanted.data(), wanted.size()))
-        return attribute.second;
+      if (attribute.tag == tag &&
+          nameIs(attribute.name, wanted.data(), wanted.size()))
+        return attribute.value;
     return "";
   }
   const auto found = document.index.find(wanted);

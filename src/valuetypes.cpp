@@ -5,7 +5,6 @@
 #include "serializerhelper.h"
 
 #include <algorithm>
-#include <cctype>
 #include <charconv>
 #include <cstring>
 #include <istream>
@@ -109,7 +108,11 @@ struct StoredText {
   // A word of hexadecimal digits followed by a blank.
   bool hexWord(std::string& word) {
     const char* start = p;
-    while (p != end && std::isxdigit(static_cast<unsigned char>(*p)))
+    const auto isHexDigit = [](char c) {
+      return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') ||
+             (c >= 'A' && c <= 'F');
+    };
+    while (p != end && isHexDigit(*p))
       ++p;
     if (p == start || p == end || *p != ' ')
       return false;

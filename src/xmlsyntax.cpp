@@ -126,6 +126,12 @@ private:
     bool operator==(const Name& other) const {
       return size == other.size && std::memcmp(start, other.start, size) == 0;
     }
+    // Byte order, a prefix first.
+    bool operator<(const Name& other) const {
+      const int order =
+          std::memcmp(start, other.start, std::min(size, other.size));
+      return order < 0 || (order == 0 && size < other.size);
+    }
   };
 
   bool fail(Ptr at, const std::string& message) {
@@ -458,6 +464,9 @@ bool Checker::startTag(bool* empty) {
     return false;
   m_attributeNames.clear();
   m_manyAttributeNames.clear();
+  // Attributes are mostly in order (writers sort them): while each name
+  // comes after the one before, none can repeat an earlier one.
+  bool ordered = true;
   for (;;) {
     const bool spaced = skipSpace();
     if (m_p >= m_end)
@@ -493,6 +502,17 @@ bool Checker::startTag(bool* empty) {
     const std::string_view key(reinterpret_cast<const char*>(attribute.start),
                                attribute.size);
     bool repeated = false;
+    if (ordered) {
+      if (m_attributeNames.empty() || m_attributeNames.back() < attribute) {
+        m_attributeNames.push_back(attribute);
+        continue;
+      }
+      ordered = false;
+      if (m_attributeNames.size() >= 16)
+        for (const Name& seen : m_attributeNames)
+          m_manyAttributeNames.insert(std::string_view(
+              reinterpret_cast<const char*>(seen.start), seen.size));
+    }
     if (m_attributeNames.size() < 16) {
       for (const Name& seen : m_attributeNames)
         repeated = repeated || seen == attribute;

@@ -627,12 +627,20 @@ TEST(XmlTextReader, RefusesBadTextWithOneErrorNamingLineAndColumn) {
   std::string deep;
   for (unsigned i = 0; i < kMaxLayoutDepth; ++i)
     deep += "<a>";
+  // Twenty attributes in order, then one of them again.
+  std::string many = "<a";
+  for (int i = 0; i < 20; ++i)
+    many +=
+        std::string(" k") + char('0' + i / 10) + char('0' + i % 10) + "='1'";
+  many += " k05='2'/>";
   const BadText cases[] = {
       {"", 1, 1, "not XML: no document element"},
       {"just text", 1, 1, "not XML: expected the document element"},
       {"<UserContentContainer>\n<DataElement", 2, 13, "not XML: the text ends"},
       {"<a><b></a>", 1, 7, "does not match the start tag \"b\""},
       {"<a x='1' x='2'/>", 1, 10, "\"x\" is given twice"},
+      {"<a b='1' a='2' b='3'/>", 1, 16, "\"b\" is given twice"},
+      {many, 1, 164, "\"k05\" is given twice"},
       {"<a x='<'/>", 1, 7, "not XML: \"<\" in attribute value"},
       {"<a x='&'/>", 1, 8, "not XML: expected an entity name"},
       {"<a x='&nbsp;'/>", 1, 7, "the entity \"nbsp\" is not declared"},
