@@ -75,7 +75,7 @@ public:
   void reset();
 
 private:
-  static const std::uint32_t None = 0xFFFFFFFFu;
+  static constexpr std::uint32_t None = 0xFFFFFFFFu;
 
   // Elements are kept in document order (the order they are made in is a
   // preorder walk of the tree), attributes as lists per element in the order
@@ -137,7 +137,7 @@ private:
   };
   // A text looked up lately, when it is at most kCachedText bytes long: the
   // text as given, and its name's index (None: no XML name).
-  static const std::size_t kCachedText = 32;
+  static constexpr std::size_t kCachedText = 32;
   struct NameCacheEntry {
     std::uint32_t size; // None: the entry is empty
     std::uint32_t name;
