@@ -78,16 +78,18 @@ private:
   static constexpr std::uint32_t None = 0xFFFFFFFFu;
 
   // Elements are kept in document order (the order they are made in is a
-  // preorder walk of the tree), attributes as lists per element in the order
-  // they were first set; writing the text puts each list in the DOM's order
-  // (by name). Names are interned: each distinct name is pooled once and
-  // known by its index.
+  // preorder walk of the tree), attributes as lists per element: a short
+  // list in the DOM's order (by name) as keys come, a long one in the order
+  // its keys came until writing the text sorts it. Names are interned: each
+  // distinct name is pooled once and known by its index.
   //
   // Escaped values are pooled as they are set. Writing the text moves them
   // into it: from then on a value is read from where it stands in the text,
   // and the pool is let go, so that the writer holds each value once.
-  // Both made in place by constructors: a temporary copied into the vector
-  // is stored in pieces and loaded whole, which stalls the processor.
+  //
+  // Elements and attributes are made in place by their constructors: a
+  // temporary copied into the vector is stored in pieces and loaded whole,
+  // which stalls the processor.
   struct Element {
     Element(std::uint32_t name, std::uint32_t depth)
         : textOffset(0), name(name), depth(depth), firstAttribute(None),
@@ -122,7 +124,7 @@ private:
   // In the pool a name stands as "<name</name> name=\"", the three forms
   // in which the text carries it.
   struct Name {
-    std::uint32_t offset; // of the block in m_names' pool
+    std::uint32_t offset; // of the block in m_namePool
     std::uint32_t size;   // of the name
     // The first eight bytes, ordered as the DOM orders names: two names
     // whose keys differ are ordered by their keys.
