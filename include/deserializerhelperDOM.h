@@ -129,6 +129,10 @@ private:
   // there is no such child or it cannot be read.
   bool getValueText(const std::string& key, std::string* text) const;
   template <class Int> bool getIntValue(const std::string& key, Int* out) const;
+  // getStringHelper with the attribute's name as a DOM string; key is the
+  // same name for the message.
+  bool readAttribute(const XMLCh* name, const char* key, std::string* out,
+                     const xercesc::DOMNode* node) const;
 };
 
 } // namespace DbgData

@@ -21,10 +21,39 @@ namespace {
 const char* const kSourceName = "src/deserializerhelperDOM";
 
 constexpr XmlLiteral kValues("values");
+constexpr XmlLiteral kClassName("ClassName");
+constexpr XmlLiteral kSubKey("SubKey");
 
 void requireOutput(const void* out, unsigned long line) {
   if (!out)
     throwDDFatalError("Bad Pointer!", kSourceName, line);
+}
+
+// A DOM string as narrow text in *out: ASCII straight into the string
+// (short text through a buffer on the stack, checked and narrowed in one
+// pass), other text through the transcoder (X2A).
+void assignNarrow(const XMLCh* text, std::string* out) {
+  char buffer[128];
+  std::size_t length = 0;
+  while (length < sizeof buffer && text[length] != 0 && text[length] < 0x80) {
+    buffer[length] = static_cast<char>(text[length]);
+    ++length;
+  }
+  if (length < sizeof buffer && text[length] == 0) {
+    out->assign(buffer, length);
+    return;
+  }
+  while (text[length] != 0 && text[length] < 0x80)
+    ++length;
+  if (text[length] != 0) {
+    const X2A narrow(text);
+    out->assign(narrow.get());
+    return;
+  }
+  out->resize(length);
+  char* const chars = &(*out)[0];
+  for (std::size_t i = 0; i < length; ++i)
+    chars[i] = static_cast<char>(text[i]);
 }
 
 } // namespace
@@ -143,12 +172,18 @@ bool DeserializerHelperDOM::popListSection() {
 bool DeserializerHelperDOM::getStringHelper(const std::string& key,
                                             std::string* out,
                                             const DOMNode* node) const {
+  const A2X name(key);
+  return readAttribute(name.get(), key.c_str(), out, node);
+}
+
+bool DeserializerHelperDOM::readAttribute(const XMLCh* name, const char* key,
+                                          std::string* out,
+                                          const DOMNode* node) const {
   requireOutput(out, __LINE__);
   const DOMNode* target = node ? node : getFocusNode();
   if (target && target->getNodeType() == DOMNode::ELEMENT_NODE) {
-    A2X name(key);
-    X2A text(static_cast<const DOMElement*>(target)->getAttribute(name.get()));
-    out->assign(text.get());
+    assignNarrow(static_cast<const DOMElement*>(target)->getAttribute(name),
+                 out);
     return true;
   }
   std::cerr << "SerializerHelperDOM::setStringHelper(" << key << ", "
@@ -187,8 +222,8 @@ unsigned long DeserializerHelperDOM::getValueCount() const {
 
 bool DeserializerHelperDOM::getNameAndSubKey(std::string* className,
                                              std::string* subKey) const {
-  return getStringHelper("ClassName", className, nullptr) &&
-         getStringHelper("SubKey", subKey, nullptr);
+  return readAttribute(kClassName.get(), "ClassName", className, nullptr) &&
+         readAttribute(kSubKey.get(), "SubKey", subKey, nullptr);
 }
 
 bool DeserializerHelperDOM::getBool(const std::string& key, bool* out) const {
